@@ -1,0 +1,360 @@
+#include "pon/DataToCommandsConvertor/name_tables.h"
+
+#include "platform/platform.h"
+#include "pon/DataToCommandsConvertor.h"
+
+#include <cstdint>
+#include <cstdlib>
+#include <cstring>
+
+char* management2id_connection[GCFG_ONT_PROFILES];
+char* shaping2id_connection[GCFG_SHAPING_PROFILES];
+char* ports2id_connection[GCFG_ONT_PROFILES];
+char* voice2id_connection[GCFG_ONT_PROFILES];
+char* cross_connect2id_connection[GCFG_CROSS_CONNECT_PROFILES];
+char* alloc2id_connection[GCFG_ALLOC_PROFILES];
+char* onttemplate2id_connection[GCFG_ONT_PROFILES];
+char* address_table2id_connection[GCFG_OLT_PROFILES];
+char* dhcpra2id_connection[GCFG_OLT_PROFILES];
+char* dhcpv6ra2id_connection[GCFG_OLT_PROFILES];
+char* pppoeia2id_connection[GCFG_OLT_PROFILES];
+char* vlan2id_connection[GCFG_OLT_PROFILES];
+
+char* def_management2id_connection[GCFG_ONT_PROFILES];
+char* def_shaping2id_connection[GCFG_SHAPING_PROFILES];
+char* def_ports2id_connection[GCFG_ONT_PROFILES];
+char* def_voice2id_connection[GCFG_ONT_PROFILES];
+char* def_cross_connect2id_connection[GCFG_CROSS_CONNECT_PROFILES];
+char* def_alloc2id_connection[GCFG_ALLOC_PROFILES];
+char* def_onttemplate2id_connection[GCFG_ONT_PROFILES];
+char* def_address_table2id_connection[GCFG_OLT_PROFILES];
+char* def_dhcpra2id_connection[GCFG_OLT_PROFILES];
+char* def_dhcpv6ra2id_connection[GCFG_OLT_PROFILES];
+char* def_pppoeia2id_connection[GCFG_OLT_PROFILES];
+char* def_vlan2id_connection[GCFG_OLT_PROFILES];
+
+char* terminalvlan2id_connection[GCFG_TERMINAL_VLANS];
+char* user2id_connection[GCFG_USERS];
+char* ont2id_connection[GCFG_ONTS];
+char* def_ont2id_connection[512];
+const char* alarm2id_connection[GCFG_ALARM_TYPES];
+unsigned short profile_dhcpra_redefinition2id_connection[GCFG_RELAY_REDEFINITIONS];
+
+char telnetip[GCFG_ALLOW_ENTRIES][16];
+char sship[GCFG_ALLOW_ENTRIES][16];
+char snmpip[GCFG_ALLOW_ENTRIES][16];
+char routeip[GCFG_ROUTES][16];
+char sourceguardip[GCFG_SOURCE_GUARD_BINDINGS][16];
+
+int sn_format;
+
+namespace {
+
+/// A table of names and where the named objects stand in a configuration.
+struct NameTable {
+    char** names;
+    char** old_names; ///< null where only the new configuration is named
+    std::size_t slots;
+    std::size_t first; ///< offset of the first object in GCfg
+    std::size_t stride;
+    std::size_t exists; ///< offsets in the object: the flag that says it is there, ...
+    std::size_t exists_size;
+    std::size_t name; ///< ... and its name
+    std::size_t name_size;
+};
+
+#define NAME_TABLE(names, old_names, array, record, exists)                                                            \
+    {                                                                                                                  \
+        names, old_names, sizeof(names) / sizeof *(names), offsetof(GCfg, array), sizeof(record),                      \
+            offsetof(record, exists), sizeof(record::exists), offsetof(record, name), sizeof(record::name)             \
+    }
+#define PROFILE_TABLE(kind, array, record)                                                                             \
+    NAME_TABLE(kind##2id_connection, def_##kind##2id_connection, array, record, exist)
+
+constexpr NameTable name_tables[] = {
+    PROFILE_TABLE(management, pon.profiles_ont.management, GPonProfileOntManagement),
+    PROFILE_TABLE(shaping, pon.profiles_ont.shaping, GPonProfileOntShaping),
+    PROFILE_TABLE(address_table, pon.profiles_olt.address_table, GPonProfileOltAddressTable),
+    PROFILE_TABLE(cross_connect, pon.profiles_ont.cross_connect, GPonProfileOntCrossConnect),
+    PROFILE_TABLE(alloc, pon.profiles_ont.alloc, GPonProfileOntAlloc),
+    PROFILE_TABLE(dhcpra, pon.profiles_olt.dhcp_ra, GPonProfileOltDhcpRa),
+    PROFILE_TABLE(dhcpv6ra, pon.profiles_olt.dhcpv6_ra, GPonProfileOltDhcpv6Ra),
+    PROFILE_TABLE(ports, pon.profiles_ont.ports, GPonProfileOntPorts),
+    PROFILE_TABLE(voice, pon.profiles_ont.voice, GPonProfileOntVoice),
+    PROFILE_TABLE(pppoeia, pon.profiles_olt.pppoe_ia, GPonProfileOltPppoeIa),
+    PROFILE_TABLE(vlan, pon.profiles_olt.vlan, GPonProfileOltVlan),
+    PROFILE_TABLE(onttemplate, pon.profiles_ont.template_ont, GPonTemplateOnt),
+    NAME_TABLE(terminalvlan2id_connection, nullptr, pon.network.terminal_vlan, GVlanTagEx, exists),
+    NAME_TABLE(user2id_connection, nullptr, system.user, GSystemUser, exist),
+};
+
+#undef PROFILE_TABLE
+#undef NAME_TABLE
+
+bool any_byte_set(const char* bytes, std::size_t size)
+{
+    for (std::size_t i = 0; i < size; ++i)
+        if (bytes[i] != 0)
+            return true;
+    return false;
+}
+
+/// The names of every object that exists, each in a block of its own; the table is empty before.
+bool fill(const NameTable& table, char** names, const GCfg& configuration)
+{
+    const char* object = reinterpret_cast<const char*>(&configuration) + table.first;
+    for (std::size_t i = 0; i < table.slots; ++i, object += table.stride) {
+        if (!any_byte_set(object + table.exists, table.exists_size))
+            continue;
+        names[i] = strndup(object + table.name, table.name_size);
+        if (!names[i])
+            return false;
+    }
+    return true;
+}
+
+void release(char** names, std::size_t slots)
+{
+    for (std::size_t i = 0; i < slots; ++i) {
+        std::free(names[i]);
+        names[i] = nullptr;
+    }
+}
+
+bool fill_serials(const GCfg& configuration)
+{
+    constexpr std::size_t serial_size = 24;
+    for (std::size_t i = 0; i < GCFG_ONTS; ++i) {
+        ont2id_connection[i] = static_cast<char*>(std::calloc(1, serial_size));
+        if (!ont2id_connection[i])
+            return false;
+        if (i == 0)
+            std::strcpy(ont2id_connection[i], "0000000000000000");
+        else
+            convert_sn_by_format(ont2id_connection[i], configuration.pon.ont[i].serial);
+    }
+    return true;
+}
+
+bool fill_name_tables(const GCfg& orig, const GCfg& cfg)
+{
+    for (const NameTable& table : name_tables) {
+        if (!fill(table, table.names, cfg))
+            return false;
+        if (table.old_names && !fill(table, table.old_names, orig))
+            return false;
+    }
+    return true;
+}
+
+void fill_addresses(const GSystemServices& services)
+{
+    for (std::size_t i = 0; i < GCFG_ALLOW_ENTRIES; ++i) {
+        convert_ip_bintostr(telnetip[i], services.telnet.allow[i].ip);
+        convert_ip_bintostr(sship[i], services.ssh.allow[i].ip);
+        convert_ip_bintostr(snmpip[i], services.snmp.allow[i].ip);
+    }
+    for (std::size_t i = 0; i < GCFG_ROUTES; ++i)
+        convert_ip_bintostr(routeip[i], services.routing.route[i].prefix);
+    for (std::size_t i = 0; i < GCFG_SOURCE_GUARD_BINDINGS; ++i)
+        convert_ip_bintostr(sourceguardip[i], services.source_guard.bind[i].ip);
+}
+
+constexpr char unassigned[] = "unassigned";
+
+template <int Slots>
+const char* name_or_unassigned(char* const (&names)[Slots], int index)
+{
+    return index >= 0 && index < Slots ? names[index] : unassigned;
+}
+
+template <int Slots>
+const char* old_name_or_unassigned(char* const (&names)[Slots], int index)
+{
+    const char* const name = name_or_unassigned(names, index);
+    return name ? name : unassigned;
+}
+
+} // namespace
+
+int data_prepare(GCfg_t* orig, GCfg_t* cfg)
+{
+    data_free();
+    current_view.name = "root";
+    if (!orig || !cfg)
+        return -1;
+    sn_format = cfg->system.settings.ont_sn_format;
+    if (!fill_serials(*cfg) || !fill_name_tables(*orig, *cfg)) {
+        data_free();
+        return -1;
+    }
+    for (std::size_t i = 0; i < GCFG_ALARM_TYPES; ++i)
+        alarm2id_connection[i] = getCliAlarmType(static_cast<int>(cfg->system.services.alarm.type[i].type));
+    for (std::size_t i = 0; i < GCFG_RELAY_REDEFINITIONS; ++i)
+        profile_dhcpra_redefinition2id_connection[i] = cfg->pon.olt.general.profile_olt_dhcpra_redefinition[i].vid;
+    fill_addresses(cfg->system.services);
+    return 0;
+}
+
+int data_free()
+{
+    release(ont2id_connection, GCFG_ONTS);
+    for (const NameTable& table : name_tables) {
+        release(table.names, table.slots);
+        if (table.old_names)
+            release(table.old_names, table.slots);
+    }
+    std::memset(alarm2id_connection, 0, sizeof alarm2id_connection);
+    std::memset(profile_dhcpra_redefinition2id_connection, 0, sizeof profile_dhcpra_redefinition2id_connection);
+    std::memset(telnetip, 0, sizeof telnetip);
+    std::memset(sship, 0, sizeof sship);
+    std::memset(snmpip, 0, sizeof snmpip);
+    std::memset(routeip, 0, sizeof routeip);
+    std::memset(sourceguardip, 0, sizeof sourceguardip);
+    return 0;
+}
+
+const char* getManagementName(int index)
+{
+    return name_or_unassigned(management2id_connection, index);
+}
+
+const char* getShapingName(int index)
+{
+    return name_or_unassigned(shaping2id_connection, index);
+}
+
+const char* getPortsName(int index)
+{
+    return name_or_unassigned(ports2id_connection, index);
+}
+
+const char* getVoiceName(int index)
+{
+    return name_or_unassigned(voice2id_connection, index);
+}
+
+const char* getAddressTableName(int index)
+{
+    return name_or_unassigned(address_table2id_connection, index);
+}
+
+const char* getCrossConnectName(int index)
+{
+    return name_or_unassigned(cross_connect2id_connection, index);
+}
+
+const char* getAllocName(int index)
+{
+    return name_or_unassigned(alloc2id_connection, index);
+}
+
+const char* getDhcpRaName(int index)
+{
+    return name_or_unassigned(dhcpra2id_connection, index);
+}
+
+const char* getDhcpv6RaName(int index)
+{
+    return name_or_unassigned(dhcpv6ra2id_connection, index);
+}
+
+const char* getPppoeName(int index)
+{
+    return name_or_unassigned(pppoeia2id_connection, index);
+}
+
+const char* getVlanName(int index)
+{
+    return name_or_unassigned(vlan2id_connection, index);
+}
+
+const char* getTemplateName(int index)
+{
+    return name_or_unassigned(onttemplate2id_connection, index);
+}
+
+const char* getTerminalVlanName(int index)
+{
+    return name_or_unassigned(terminalvlan2id_connection, index);
+}
+
+const char* def_getManagementName(int index)
+{
+    return old_name_or_unassigned(def_management2id_connection, index);
+}
+
+const char* def_getShapingName(int index)
+{
+    return old_name_or_unassigned(def_shaping2id_connection, index);
+}
+
+const char* def_getPortsName(int index)
+{
+    return old_name_or_unassigned(def_ports2id_connection, index);
+}
+
+const char* def_getVoiceName(int index)
+{
+    return old_name_or_unassigned(def_voice2id_connection, index);
+}
+
+const char* def_getAddressTableName(int index)
+{
+    return old_name_or_unassigned(def_address_table2id_connection, index);
+}
+
+const char* def_getCrossConnectName(int index)
+{
+    return old_name_or_unassigned(def_cross_connect2id_connection, index);
+}
+
+const char* def_getAllocName(int index)
+{
+    return old_name_or_unassigned(def_alloc2id_connection, index);
+}
+
+const char* def_getDhcpRaName(int index)
+{
+    return old_name_or_unassigned(def_dhcpra2id_connection, index);
+}
+
+const char* def_getDhcpv6RaName(int index)
+{
+    return old_name_or_unassigned(def_dhcpv6ra2id_connection, index);
+}
+
+const char* def_getPppoeName(int index)
+{
+    return old_name_or_unassigned(def_pppoeia2id_connection, index);
+}
+
+const char* def_getVlanName(int index)
+{
+    return old_name_or_unassigned(def_vlan2id_connection, index);
+}
+
+const char* def_getTemplateName(int index)
+{
+    return old_name_or_unassigned(def_onttemplate2id_connection, index);
+}
+
+char* convert_sn_by_format(char* out, const unsigned char* serial)
+{
+    enum { pretty, dense, dashed };
+    constexpr int vendor_size = 4;
+    if (sn_format == dense)
+        convert_sn_bintostr_dense(out, serial);
+    if (sn_format == dashed)
+        convert_sn_bintostr_dashed(out, serial);
+    if (sn_format != pretty)
+        return out;
+    convert_sn_bintostr_pretty(out, serial);
+    for (int i = 0; i < vendor_size; ++i) {
+        if (out[i] < 'A' || out[i] > 'Z') {
+            convert_sn_bintostr_dense(out, serial);
+            break;
+        }
+    }
+    return out;
+}

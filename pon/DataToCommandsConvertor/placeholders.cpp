@@ -1,0 +1,145 @@
+#include "pon/DataToCommandsConvertor/placeholders.h"
+
+#include "pon/DataToCommandsConvertor.h"
+#include "pon/DataToCommandsConvertor/name_tables.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace pondiff {
+
+namespace {
+
+constexpr char mark[] = "$ID";
+constexpr std::size_t mark_size = sizeof mark - 1;
+constexpr std::size_t identifier_width = 4;
+constexpr int key_slots = 10;
+
+template <int Slots>
+const char* row_of(const char (&rows)[Slots][16], int index)
+{
+    return index >= 0 && index < Slots ? rows[index] : nullptr;
+}
+
+/// A command family that shows its first identifier as a name. The value has no entry where it is null.
+struct Family {
+    const char* prefix;
+    const char* before; ///< what stands before the name and ...
+    const char* after;  ///< ... behind it
+    const char* (*value)(int index);
+};
+
+const Family families[] = {
+    {"user $ID0", "user \"", "\" ", [](int i) { return name_in(user2id_connection, GCFG_USERS, i); }},
+    {"log submodule $ID0", "log submodule ", " ", getCliSubmoduleType},
+    {"alarm $ID0", "alarm ", " ",
+     [](int i) { return i >= 0 && i < GCFG_ALARM_TYPES ? alarm2id_connection[i] : nullptr; }},
+    {"ip ssh allow ip $ID0", "ip ssh allow ip ", " ", [](int i) { return row_of(sship, i); }},
+    {"ip snmp allow ip $ID0", "ip snmp allow ip ", " ", [](int i) { return row_of(snmpip, i); }},
+    {"ip telnet allow ip $ID0", "ip telnet allow ip ", " ", [](int i) { return row_of(telnetip, i); }},
+    {"ip route prefix $ID0", "ip route prefix ", " ", [](int i) { return row_of(routeip, i); }},
+    {"ip source-guard bind ip $ID0", "ip source-guard bind ip ", " ", [](int i) { return row_of(sourceguardip, i); }},
+};
+
+void name_first_identifier(Text& line, int id)
+{
+    for (const Family& family : families) {
+        const std::size_t size = std::strlen(family.prefix);
+        if (line.size() < size || std::memcmp(line.data(), family.prefix, size) != 0)
+            continue;
+        const char* const value = family.value(id);
+        Text named;
+        named.append(family.before);
+        named.append(value ? value : "");
+        named.append(family.after);
+        // The blank behind the placeholder goes with it: the name brings its own.
+        line.replace_front(std::min(size + 1, line.size()), named);
+        return;
+    }
+}
+
+enum class Slot { none, number, outside };
+
+/// Reads the slot number behind a mark as the scanning conversion %d does: blanks and a sign are skipped.
+Slot read_slot(const char* at, const char* end, int& slot)
+{
+    while (at != end && (*at == ' ' || (*at >= '\t' && *at <= '\r')))
+        ++at;
+    const bool negative = at != end && *at == '-';
+    if (at != end && (*at == '-' || *at == '+'))
+        ++at;
+    if (at == end || *at < '0' || *at > '9')
+        return Slot::none;
+    int value = 0;
+    for (; at != end && *at >= '0' && *at <= '9'; ++at)
+        value = std::min(value * 10 + (*at - '0'), key_slots);
+    if (value >= key_slots || (negative && value != 0))
+        return Slot::outside;
+    slot = value;
+    return Slot::number;
+}
+
+char* find_mark(char* from, char* end)
+{
+    while (static_cast<std::size_t>(end - from) >= mark_size) {
+        from = static_cast<char*>(std::memchr(from, mark[0], static_cast<std::size_t>(end - from) - mark_size + 1));
+        if (!from)
+            return nullptr;
+        if (std::memcmp(from, mark, mark_size) == 0)
+            return from;
+        ++from;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+void substitute(Text& line, const int* ids)
+{
+    if (!find_mark(line.data(), line.data() + line.size()))
+        return;
+    name_first_identifier(line, ids[0]);
+
+    int slot = 0; // a mark without a number takes the number read last
+    std::size_t done = 0;
+    while (char* const at = find_mark(line.data() + done, line.data() + line.size())) {
+        done = static_cast<std::size_t>(at - line.data());
+        if (read_slot(at + mark_size, line.data() + line.size(), slot) == Slot::outside) {
+            done += mark_size;
+            continue;
+        }
+        Text identifier;
+        identifier.append_aligned(ids[slot]);
+        done += identifier_width;
+        if (done > line.size())
+            line.append(" ", 1); // a mark at the very end: four characters are written all the same
+        if (done > line.size())
+            return;
+        std::memcpy(line.data() + done - identifier_width, identifier.data(), identifier_width);
+    }
+}
+
+} // namespace pondiff
+
+char* useVariables(char* command, int* ids)
+{
+    if (!command || !ids)
+        return nullptr;
+    pondiff::Text line;
+    line.append(command);
+    pondiff::substitute(line, ids);
+    return line.release_copy();
+}
+
+int generate_command_buf(char* command, int* ids, char* output, std::size_t size)
+{
+    if (!command || !ids || !output || size == 0)
+        return 0;
+    pondiff::Text line;
+    line.append(command);
+    pondiff::substitute(line, ids);
+    const std::size_t kept = std::min(line.size(), size - 1);
+    std::memcpy(output, line.data(), kept);
+    output[kept] = '\0';
+    return 0;
+}

@@ -1,0 +1,95 @@
+#include "pon/DataToCommandsConvertor/text.h"
+
+#include <cstdlib>
+
+namespace pondiff {
+
+std::size_t put_natural(char* out, std::uint64_t value)
+{
+    char digits[20];
+    std::size_t count = 0;
+    do {
+        digits[count++] = static_cast<char>('0' + value % 10);
+        value /= 10;
+    } while (value != 0);
+    for (std::size_t i = 0; i < count; ++i)
+        out[i] = digits[count - 1 - i];
+    return count;
+}
+
+std::size_t put_decimal(char* out, std::int64_t value)
+{
+    if (value >= 0)
+        return put_natural(out, static_cast<std::uint64_t>(value));
+    *out = '-';
+    return 1 + put_natural(out + 1, 0 - static_cast<std::uint64_t>(value));
+}
+
+Text::~Text()
+{
+    if (data_ != inline_)
+        std::free(data_);
+}
+
+bool Text::grow(std::size_t more)
+{
+    const std::size_t wanted = (size_ + more + 1) * 2;
+    char* const old = data_ == inline_ ? nullptr : data_;
+    auto* const bigger = static_cast<char*>(std::realloc(old, wanted));
+    if (!bigger) {
+        failed_ = true;
+        return false;
+    }
+    if (!old)
+        std::memcpy(bigger, inline_, size_);
+    data_ = bigger;
+    capacity_ = wanted;
+    return true;
+}
+
+void Text::append_natural(std::uint64_t value)
+{
+    char digits[20];
+    append(digits, put_natural(digits, value));
+}
+
+void Text::append_decimal(std::int64_t value)
+{
+    char digits[20];
+    append(digits, put_decimal(digits, value));
+}
+
+void Text::append_aligned(int value)
+{
+    constexpr std::size_t width = 4;
+    char digits[20];
+    const std::size_t count = put_decimal(digits, value);
+    if (count < width)
+        append("    ", width - count);
+    append(digits, count);
+}
+
+void Text::replace_front(std::size_t count, const Text& text)
+{
+    if (text.size_ > count && capacity_ - size_ <= text.size_ - count && !grow(text.size_ - count))
+        return;
+    std::memmove(data_ + text.size_, data_ + count, size_ - count);
+    std::memcpy(data_, text.data_, text.size_);
+    size_ = size_ - count + text.size_;
+}
+
+char* Text::c_str()
+{
+    data_[size_] = '\0';
+    return data_;
+}
+
+char* Text::release_copy()
+{
+    auto* const copy = failed_ ? nullptr : static_cast<char*>(std::malloc(size_ + 1));
+    if (copy)
+        std::memcpy(copy, c_str(), size_ + 1);
+    return copy;
+}
+
+} // namespace pondiff

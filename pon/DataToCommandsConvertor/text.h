@@ -1,0 +1,62 @@
+#ifndef PON_DATATOCOMMANDSCONVERTOR_TEXT_H
+#define PON_DATATOCOMMANDSCONVERTOR_TEXT_H
+
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+
+namespace pondiff {
+
+/// Digits of a number as the printing conversions %u and %d write them; both return the count written (at most 20).
+std::size_t put_natural(char* out, std::uint64_t value);
+std::size_t put_decimal(char* out, std::int64_t value);
+
+/// Scratch text being built. It lives on the stack and holds a command line of the usual length there; only what a
+/// caller's own long prefix or a foreign platform library's long word exceeds goes to the heap. When memory cannot be
+/// had, the text stays as it is and `failed` tells.
+class Text {
+  public:
+    Text() = default;
+    ~Text();
+    Text(const Text&) = delete;
+    Text& operator=(const Text&) = delete;
+
+    void append(const char* bytes, std::size_t size)
+    {
+        if (capacity_ - size_ <= size && !grow(size))
+            return;
+        std::memcpy(data_ + size_, bytes, size);
+        size_ += size;
+    }
+    void append(const char* text) { append(text, std::strlen(text)); }
+    void append_natural(std::uint64_t value);
+    void append_decimal(std::int64_t value);
+    /// The "%4d" of identifiers: right-aligned in four characters, wider values in full.
+    void append_aligned(int value);
+    /// Puts `text` in place of the first `count` bytes.
+    void replace_front(std::size_t count, const Text& text);
+    void clear() { size_ = 0; }
+
+    char* data() { return data_; }
+    const char* data() const { return data_; }
+    /// The text with its terminator.
+    char* c_str();
+    std::size_t size() const { return size_; }
+    bool failed() const { return failed_; }
+    /// A copy on the heap that `free` releases; null when memory cannot be had or part of the text was lost.
+    char* release_copy();
+
+  private:
+    bool grow(std::size_t more);
+
+    static constexpr std::size_t inline_capacity = 1024;
+    char inline_[inline_capacity];
+    char* data_ = inline_;
+    std::size_t size_ = 0;
+    std::size_t capacity_ = inline_capacity; // one byte of it is kept for the terminator
+    bool failed_ = false;
+};
+
+} // namespace pondiff
+
+#endif

@@ -1,0 +1,47 @@
+#include "pon/command_file_generator.h"
+#include "pon/command_file_generator/operation.h"
+#include "pon/diff_builder/rows.h"
+
+using namespace pondiff;
+
+namespace {
+
+/// The records that a diff of the common settings shows, each under its own rule.
+void diff_common_records(GCfg& orig, GCfg& cfg, int* key, List<char>& out)
+{
+    getdiff_GSystemCommonSettings(&orig.system.settings, &cfg.system.settings, key, out);
+    getdiff_GPonNetworkCfg(&orig.pon.network, &cfg.pon.network, key, out);
+}
+
+} // namespace
+
+char* GetDiff(GCfg_t* orig, GCfg_t* cfg)
+{
+    constexpr int common_records_only = 1;
+    Operation operation;
+    if (orig && cfg) {
+        if (print_common == common_records_only)
+            diff_common_records(*orig, *cfg, operation.key, operation.list);
+        else
+            getdiff_GCfg(orig, cfg, operation.key, operation.list);
+    }
+    operation.go_to("root");
+    return operation.finish(Ending::commit);
+}
+
+bool getdiff_GCfg(GCfg* lhs, GCfg* rhs, int* key, List<char>& out)
+{
+    if (!lhs || !rhs)
+        return false;
+    descend(changed_or_all, getdiff_GSystemCfg, lhs->system, rhs->system, key, out);
+    descend(changed_or_all, getdiff_GPonCfg, lhs->pon, rhs->pon, key, out);
+    return false;
+}
+
+bool getdiff_GPonCfg(GPonCfg* lhs, GPonCfg* rhs, int* key, List<char>& out)
+{
+    if (nothing_to_say(lhs, rhs))
+        return false;
+    descend(changed_or_all, getdiff_GPonNetworkCfg, lhs->network, rhs->network, key, out);
+    return false;
+}

@@ -1,0 +1,23 @@
+#include "pon/command_file_generator/operation.h"
+
+#include "pon/diff_builder/rows.h"
+
+namespace pondiff {
+
+void Operation::go_to(const char* view)
+{
+    navigate({view, key, list});
+}
+
+char* Operation::finish(Ending ending)
+{
+    constexpr char commit[] = "commit";
+    if (ending == Ending::commit && !script_.empty())
+        script_.append_line(commit, sizeof commit - 1);
+    char* const text = script_.release();
+    if (!text)
+        current_view = before_;
+    return text;
+}
+
+} // namespace pondiff

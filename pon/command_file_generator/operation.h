@@ -1,0 +1,31 @@
+#ifndef PON_COMMAND_FILE_GENERATOR_OPERATION_H
+#define PON_COMMAND_FILE_GENERATOR_OPERATION_H
+
+#include "pon/DataToCommandsConvertor.h"
+#include "pon/diff_builder.h"
+#include "pon/diff_builder/list.h"
+
+namespace pondiff {
+
+/// How the text of an operation ends: as the last command leaves it, or with "commit" when there is any text.
+enum class Ending { plain, commit };
+
+/// One exported operation from its empty list and zeroed key to the text that it returns.
+class Operation {
+  public:
+    void go_to(const char* view);
+    /// The text on the heap, for the caller. Null when it could not be had whole: the script was not issued, so the
+    /// current view goes back to where it was.
+    char* finish(Ending ending);
+
+    int key[10] = {};
+    List<char> list;
+
+  private:
+    Script script_{list};
+    const view_state before_ = current_view;
+};
+
+} // namespace pondiff
+
+#endif

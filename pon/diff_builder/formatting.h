@@ -1,0 +1,101 @@
+#ifndef PON_DIFF_BUILDER_FORMATTING_H
+#define PON_DIFF_BUILDER_FORMATTING_H
+
+#include "gcfg/gcfg.h"
+#include "pon/DataToCommandsConvertor/text.h"
+
+#include <cstddef>
+#include <cstdint>
+
+namespace pondiff {
+
+/// A value on its way into a command: what it is and how it is written. It refers to texts and addresses, so it does
+/// not outlive the record that it was taken from.
+class Value {
+  public:
+    enum class Form : std::uint8_t {
+        text,
+        decimal,
+        natural,
+        hexadecimal,
+        decimal_or_unused, ///< -1 is "unused"
+        ber_interval,      ///< all bits set is "none"
+        channel_format,    ///< a text in which the marker of the GPON port is renamed
+        ipv4,
+        ipv6,
+        mac,
+        serial,
+        engine_id,
+    };
+
+    /// A constant text or name; null is the empty text.
+    Value(const char* text) : Value(Form::text, text, text ? std::strlen(text) : 0) {}
+    /// A text field has no terminator that can be relied on: `text(field)` knows its array.
+    Value(char* field) = delete;
+    Value(int number) : form_(Form::decimal), number_(number) {}
+    Value(unsigned number) : form_(Form::natural), number_(number) {}
+    Value(std::int64_t number) : form_(Form::decimal), number_(number) {}
+
+    /// A text field: up to its terminator or the end of its array.
+    static Value text(const void* array, std::size_t capacity, Form form = Form::text)
+    {
+        return {form, array, strnlen(static_cast<const char*>(array), capacity)};
+    }
+    static Value number(Form form, std::int64_t number, std::uint8_t digits = 1)
+    {
+        Value value(form, nullptr, digits);
+        value.number_ = number;
+        return value;
+    }
+    static Value bytes(Form form, const void* bytes) { return {form, bytes, 0}; }
+
+    void append_to(Text& out) const;
+
+  private:
+    Value(Form form, const void* bytes, std::size_t size) : form_(form), size_(size), bytes_(bytes) {}
+
+    Form form_;
+    std::size_t size_ = 0; ///< of a text; the least count of digits of a hexadecimal number
+    union {
+        std::int64_t number_;
+        const void* bytes_;
+    };
+};
+
+/// Values of record fields for commands with more than one.
+inline Value ipv4(const std::uint8_t (&address)[4])
+{
+    return Value::bytes(Value::Form::ipv4, address);
+}
+
+inline Value ipv6(const std::uint8_t (&address)[16])
+{
+    return Value::bytes(Value::Form::ipv6, address);
+}
+
+inline Value mac(const std::uint8_t (&address)[6])
+{
+    return Value::bytes(Value::Form::mac, address);
+}
+
+template <std::size_t N>
+Value text(const char (&field)[N])
+{
+    return Value::text(field, N);
+}
+
+template <std::size_t N>
+Value channel_format(const char (&field)[N])
+{
+    return Value::text(field, N, Value::Form::channel_format);
+}
+
+/// The registry's word for an enumeration value of which the low 16 bits count; never null.
+const char* enum_word(const char* type, std::int64_t value);
+
+/// Writes a template: each of its conversions (%s, %d or %u, the value knows how it is written) takes the next value.
+void format(Text& out, const char* form, const Value* values, std::size_t count);
+
+} // namespace pondiff
+
+#endif

@@ -1,0 +1,154 @@
+#include "pon/diff_builder/list.h"
+
+#include <cstdlib>
+#include <cstring>
+
+template <class T>
+List<T>::List() : first(nullptr), last(nullptr), lsize(0)
+{
+}
+
+template <class T>
+List<T>::~List()
+{
+    clear();
+}
+
+template <class T>
+bool List<T>::push_back(T* elem)
+{
+    auto* const node = static_cast<ListElem<T>*>(std::malloc(sizeof(ListElem<T>)));
+    if (!node)
+        return false;
+    *node = {elem, nullptr};
+    if (last)
+        last->next = node;
+    else
+        first = node;
+    last = node;
+    ++lsize;
+    return true;
+}
+
+template <class T>
+ListElem<T>* List<T>::begin()
+{
+    return first;
+}
+
+template <class T>
+int List<T>::size()
+{
+    return lsize;
+}
+
+template <class T>
+void List<T>::clear()
+{
+    while (first) {
+        ListElem<T>* const next = first->next;
+        std::free(first);
+        first = next;
+    }
+    last = nullptr;
+    lsize = 0;
+}
+
+template <class T>
+void List<T>::delete_elem(ListElem<T>* node)
+{
+    ListElem<T>* before = nullptr;
+    for (ListElem<T>* at = first; at; before = at, at = at->next) {
+        if (at != node)
+            continue;
+        (before ? before->next : first) = node->next;
+        if (last == node)
+            last = before;
+        --lsize;
+        std::free(node);
+        return;
+    }
+}
+
+template class List<char>;
+
+namespace pondiff {
+
+Script* Script::under_way_;
+
+Script::Script(const List<char>& list) : list_(&list), outer_(under_way_)
+{
+    under_way_ = this;
+}
+
+Script::~Script()
+{
+    under_way_ = outer_;
+    std::free(text_);
+}
+
+bool Script::grow(std::size_t more)
+{
+    constexpr std::size_t least = 4096;
+    constexpr std::size_t doubled_until = std::size_t{1} << 20;
+    // Small texts double; large ones grow by a quarter, so that little memory beyond the text is ever held.
+    std::size_t wanted = capacity_ < doubled_until ? capacity_ * 2 : capacity_ + capacity_ / 4;
+    if (wanted < least)
+        wanted = least;
+    if (wanted < size_ + more + 1)
+        wanted = size_ + more + 1;
+    auto* const bigger = static_cast<char*>(std::realloc(text_, wanted));
+    if (!bigger) {
+        failed_ = true;
+        return false;
+    }
+    text_ = bigger;
+    capacity_ = wanted;
+    return true;
+}
+
+void Script::append_line(const char* text, std::size_t size)
+{
+    if (size == 0 || *text == '\n' || failed_)
+        return;
+    if (capacity_ - size_ <= size + 1 && !grow(size + 1))
+        return;
+    std::memcpy(text_ + size_, text, size);
+    size_ += size;
+    text_[size_++] = '\n';
+}
+
+char* Script::release()
+{
+    if (failed_)
+        return nullptr;
+    auto* const fitted = static_cast<char*>(std::realloc(text_, size_ + 1));
+    if (fitted)
+        text_ = fitted;
+    else if (!text_)
+        return nullptr;
+    text_[size_] = '\0';
+    char* const text = text_;
+    text_ = nullptr;
+    size_ = capacity_ = 0;
+    return text;
+}
+
+bool push(List<char>& out, const char* text, std::size_t size)
+{
+    if (Script* const script = Script::of(out)) {
+        script->append_line(text, size);
+        return !script->failed();
+    }
+    auto* const copy = static_cast<char*>(std::malloc(size + 1));
+    if (!copy)
+        return false;
+    std::memcpy(copy, text, size);
+    copy[size] = '\0';
+    if (out.push_back(copy))
+        return true;
+    std::free(copy);
+    return false;
+}
+
+} // namespace pondiff

@@ -1,0 +1,52 @@
+#ifndef PON_DIFF_BUILDER_LIST_H
+#define PON_DIFF_BUILDER_LIST_H
+
+#include "pon/diff_builder.h"
+
+#include <cstddef>
+
+namespace pondiff {
+
+/// The text of the operation under way. An operation of the library never looks at the single elements of its list, so
+/// what is pushed onto that list goes straight into the text: one line for each element that is neither empty nor
+/// begins with a line feed. Lists of other callers get every element.
+class Script {
+  public:
+    explicit Script(const List<char>& list);
+    ~Script();
+    Script(const Script&) = delete;
+    Script& operator=(const Script&) = delete;
+
+    void append_line(const char* text, std::size_t size);
+    bool empty() const { return size_ == 0; }
+    bool failed() const { return failed_; }
+    /// Hands over the text, on the heap and with its terminator; null when part of it was lost.
+    char* release();
+
+    /// The operation under way that collects in `list`; null for lists of other callers.
+    static Script* of(const List<char>& list)
+    {
+        return under_way_ && under_way_->list_ == &list ? under_way_ : nullptr;
+    }
+    /// Notes that a text for the list could not be had.
+    void lose() { failed_ = true; }
+
+  private:
+    bool grow(std::size_t more);
+
+    static Script* under_way_;
+
+    const List<char>* list_;
+    Script* outer_;
+    char* text_ = nullptr;
+    std::size_t size_ = 0;
+    std::size_t capacity_ = 0;
+    bool failed_ = false;
+};
+
+/// Appends a fragment as it is. @return false when memory cannot be had
+bool push(List<char>& out, const char* text, std::size_t size);
+
+} // namespace pondiff
+
+#endif

@@ -1,0 +1,26 @@
+#include "pon/diff_builder/rows.h"
+
+using namespace pondiff;
+
+bool getdiff_GVlanTagEx(GVlanTagEx* lhs, GVlanTagEx* rhs, int* key, List<char>& out)
+{
+    static constexpr Row<GVlanTagEx> name = //
+        text(FIELD(GVlanTagEx, name), "gpon network terminal-vlan \"%s\"");
+    static constexpr Row<GVlanTagEx> tag[] = {
+        number(FIELD(GVlanTagEx, tag.vid), "gpon network terminal-vlan \"%s\" vid \"%s\""),
+        number(FIELD(GVlanTagEx, tag.prio), "gpon network terminal-vlan \"%s\" cos \"%s\""),
+    };
+    if (nothing_to_say(lhs, rhs))
+        return false;
+    if (rhs->exists == 0) {
+        if (lhs->exists != 0 && lhs->name[0] != '\0')
+            append(out, "no gpon network terminal-vlan \"%s\"", text(lhs->name));
+        return false;
+    }
+    // A change of the VLAN id or the priority names the VLAN by itself; a rename leaves the old name behind.
+    if (lhs->tag.vid == rhs->tag.vid && lhs->tag.prio == rhs->tag.prio)
+        emit_changed(name, changed_only, lhs, rhs, {"configure-view", key, out});
+    const Value new_name = text(rhs->name);
+    emit_changed(tag, changed_or_common, lhs, rhs, {"configure-view", key, out, &new_name});
+    return false;
+}

@@ -1,0 +1,66 @@
+#ifndef PON_DIFF_BUILDER_PROFILE_H
+#define PON_DIFF_BUILDER_PROFILE_H
+
+/// @file
+/// What the profile kinds share. Each begins with the same four fields; how a profile is created, named and described
+/// is the same for most kinds, and the others put the same steps together in their own way.
+
+#include "pon/diff_builder/rows.h"
+
+namespace pondiff {
+
+/// A slot that is free on both sides, or a record with nothing to say.
+template <class Profile>
+bool no_profile(const Profile* lhs, const Profile* rhs)
+{
+    return nothing_to_say(lhs, rhs) || (lhs->exist == 0 && rhs->exist == 0);
+}
+
+/// The new name, when a profile that existed is renamed or the rule forces it. A new profile gets its name by its
+/// view being entered.
+template <class Profile>
+void emit_profile_name(Rule rule, const Profile* lhs, const Profile* rhs, const Where& where)
+{
+    if (forced(rule) || (lhs->exist == 1 && wanted(changed_only, lhs->name, rhs->name)))
+        emit(where, "name \"%s\"", text(rhs->name));
+}
+
+/// A profile that did not exist is created by entering its view: the navigation stands alone.
+template <class Profile>
+void enter_new_profile(const Profile* lhs, const Profile* rhs, const Where& where)
+{
+    if (lhs->exist == 0 && rhs->exist == 1)
+        navigate(where);
+}
+
+template <class Profile>
+void emit_profile_description(const Profile* lhs, const Profile* rhs, const Where& where)
+{
+    if (wanted(changed_or_all, lhs->description, rhs->description))
+        emit(where, "description \"%s\"", text(rhs->description));
+}
+
+/// How most kinds begin.
+template <class Profile>
+void emit_profile_head(const Profile* lhs, const Profile* rhs, const Where& where)
+{
+    emit_profile_name(changed_or_all, lhs, rhs, where);
+    enter_new_profile(lhs, rhs, where);
+    emit_profile_description(lhs, rhs, where);
+}
+
+/// The version and file of the ONT's configuration, one command. A new file is seen only together with a new version.
+template <class Profile>
+void emit_ont_config(const Profile* lhs, const Profile* rhs, const Where& where)
+{
+    if (!wanted(changed_or_all, lhs->ont_config_version, rhs->ont_config_version))
+        return;
+    if (wanted(changed_or_all, lhs->ont_config_file, rhs->ont_config_file))
+        emit(where, "ont-config version \"%s\" file \"%s\"", text(rhs->ont_config_version), text(rhs->ont_config_file));
+    else
+        emit(where, "ont-config version \"%s\"", text(rhs->ont_config_version));
+}
+
+} // namespace pondiff
+
+#endif

@@ -1,0 +1,344 @@
+#ifndef PON_DIFF_BUILDER_ROWS_H
+#define PON_DIFF_BUILDER_ROWS_H
+
+/// @file
+/// What a record diff is written with. Most of it is a table of rows, each a field and its command, that
+/// `emit_changed` walks; what does not fit a row is plain code with `emit`, `navigate` and `append`. They own every
+/// buffer: no record diff sees one.
+///
+/// To add a command: add a row where it belongs in the order of the commands. The verb says how the value becomes
+/// text, the field's width and sign come from the struct.
+
+#include "pon/DataToCommandsConvertor.h"
+#include "pon/diff_builder.h"
+#include "pon/diff_builder/formatting.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <initializer_list>
+#include <type_traits>
+
+namespace pondiff {
+
+// ----------------------------------------------------------------------------------------------------------- rules
+
+/// When a field is emitted although it has not changed.
+enum Rule : std::uint8_t {
+    changed_or_all,            ///< whenever `print_all` is set
+    changed_or_common,         ///< `print_all`, and `print_common` is 1 or 2
+    changed_or_profile_common, ///< `print_all`, and `print_common` is 2
+    changed_only,              ///< never
+};
+
+bool forced(Rule rule);
+
+/// True when two records or byte arrays differ, or the rule forces them. Multi-byte scalars go through rows or are
+/// compared by value: they cannot be bound to a reference.
+template <class T>
+bool wanted(Rule rule, const T& lhs, const T& rhs)
+{
+    static_assert(alignof(T) == 1, "records and byte arrays only");
+    return forced(rule) || std::memcmp(&lhs, &rhs, sizeof(T)) != 0;
+}
+
+/// The first thing that a record diff asks: without `print_all`, two equal records say nothing, nor does a null one.
+template <class T>
+bool nothing_to_say(const T* lhs, const T* rhs)
+{
+    return !lhs || !rhs || !wanted(changed_or_all, *lhs, *rhs);
+}
+
+// ------------------------------------------------------------------------------------------------------ the script
+
+/// Where commands go: the CLI view they are valid in, the object's key, the list, and a value that fills the first
+/// conversion of every template (a direction, a service's prefix, a port's number), if there is one.
+struct Where {
+    const char* view;
+    int* key;
+    List<char>& out;
+    const Value* lead = nullptr;
+};
+
+/// Appends the navigation to the view and object; an empty element when the script stands there. Like the others, it
+/// tells whether the text could be had; a record diff need not ask, the operation under way remembers it.
+bool navigate(const Where& where);
+
+/// Formats the template, substitutes placeholders and appends, without navigation.
+bool command_values(const Where& where, const char* form, const Value* values, std::size_t count);
+
+/// Formats and appends, without navigation or substitution.
+bool append_values(List<char>& out, const char* form, const Value* values, std::size_t count);
+
+template <class... Values>
+bool command(const Where& where, const char* form, Values... values)
+{
+    const Value list[] = {Value(values)..., Value("")};
+    return command_values(where, form, list, sizeof...(values));
+}
+
+template <class... Values>
+bool append(List<char>& out, const char* form, Values... values)
+{
+    const Value list[] = {Value(values)..., Value("")};
+    return append_values(out, form, list, sizeof...(values));
+}
+
+/// What nearly every command is: the navigation to its view, then the command.
+template <class... Values>
+bool emit(const Where& where, const char* form, Values... values)
+{
+    return navigate(where) && command(where, form, values...);
+}
+
+// ---------------------------------------------------------------------------------------------------------- fields
+
+/// A field of a record as the struct declares it.
+template <class Record, class Type>
+struct Field {
+    std::uint16_t offset;
+    std::uint16_t compared = sizeof(Type); ///< how many of its bytes decide whether it has changed
+
+    constexpr Field first(std::uint16_t bytes) const { return {offset, bytes}; }
+};
+
+#define FIELD(record, member)                                                                                          \
+    (::pondiff::Field<record, std::remove_reference_t<decltype(record::member)>>{offsetof(record, member)})
+
+// ------------------------------------------------------------------------------------------------------------ rows
+
+struct RowData {
+    enum class Kind : std::uint8_t {
+        flag,      ///< `form` when a bit of `mask` is set in the field, `other` when none is
+        value,     ///< `form` with the number or the bytes as `how` writes them
+        text,      ///< `form` with the characters of the field
+        word,      ///< `form` with the word that `name` gives; null is the empty text
+        enum_word, ///< `form` with the registry's word in the vocabulary `other`
+        reference, ///< `form` with the name that `name` gives; null suppresses the command
+    };
+    const char* form;
+    const char* other;
+    const char* (*name)(int);
+    std::uint64_t mask;
+    std::uint16_t offset;
+    std::uint16_t size;
+    std::uint16_t compared;
+    Kind kind;
+    Value::Form how;
+    std::uint8_t digits;
+    bool is_signed;
+};
+
+/// A row of a table whose fields all belong to `Record`.
+template <class Record>
+struct Row {
+    RowData data;
+};
+
+namespace rows {
+
+constexpr std::uint64_t every_bit = ~std::uint64_t{0};
+
+template <class Record, class Type>
+constexpr Row<Record> row(Field<Record, Type> field, RowData::Kind kind, const char* form, const char* other = nullptr,
+                          const char* (*name)(int) = nullptr, Value::Form how = Value::Form::text,
+                          std::uint8_t digits = 1)
+{
+    return {{form, other, name, every_bit, field.offset, sizeof(Type), field.compared, kind, how, digits,
+             std::is_signed_v<Type>}};
+}
+
+template <class Type>
+constexpr bool is_number = std::is_integral_v<Type>;
+
+template <class Type, std::size_t N>
+constexpr bool is_bytes = std::is_same_v<Type, std::uint8_t[N]>;
+
+} // namespace rows
+
+/// The first command when the field is non-zero, the second when it is zero. An empty command still navigates.
+template <class R, class T>
+constexpr Row<R> on_off(Field<R, T> field, const char* on, const char* off)
+{
+    static_assert(rows::is_number<T>);
+    return rows::row(field, RowData::Kind::flag, on, off);
+}
+
+/// The same for the bits of `mask` alone: the others neither decide nor count as a change.
+template <class R, class T>
+constexpr Row<R> bit(Field<R, T> field, std::uint64_t mask, const char* on, const char* off)
+{
+    static_assert(rows::is_number<T>);
+    Row<R> row = rows::row(field, RowData::Kind::flag, on, off);
+    row.data.mask = mask;
+    return row;
+}
+
+/// One command, whatever the new value is.
+template <class R, class T>
+constexpr Row<R> whenever(Field<R, T> field, const char* command)
+{
+    static_assert(rows::is_number<T>);
+    return rows::row(field, RowData::Kind::flag, command, command);
+}
+
+/// In decimal, with the sign that the field's type has.
+template <class R, class T>
+constexpr Row<R> number(Field<R, T> field, const char* form)
+{
+    static_assert(rows::is_number<T>);
+    return rows::row(field, RowData::Kind::value, form, nullptr, nullptr, Value::Form::decimal);
+}
+
+/// An unsigned field of 32 bits shown as if it were signed: values of 2^31 and above are negative.
+template <class R, class T>
+constexpr Row<R> number_as_signed(Field<R, T> field, const char* form)
+{
+    static_assert(std::is_same_v<T, std::uint32_t>);
+    Row<R> row = number(field, form);
+    row.data.is_signed = true;
+    return row;
+}
+
+template <class R, class T>
+constexpr Row<R> number_or_unused(Field<R, T> field, const char* form)
+{
+    static_assert(rows::is_number<T>);
+    return rows::row(field, RowData::Kind::value, form, nullptr, nullptr, Value::Form::decimal_or_unused);
+}
+
+template <class R, class T>
+constexpr Row<R> ber_interval(Field<R, T> field, const char* form)
+{
+    static_assert(std::is_same_v<T, std::uint32_t>);
+    return rows::row(field, RowData::Kind::value, form, nullptr, nullptr, Value::Form::ber_interval);
+}
+
+/// 0x and at least so many upper-case digits.
+template <class R, class T>
+constexpr Row<R> hexadecimal(Field<R, T> field, std::uint8_t digits, const char* form)
+{
+    static_assert(rows::is_number<T> && std::is_unsigned_v<T>);
+    return rows::row(field, RowData::Kind::value, form, nullptr, nullptr, Value::Form::hexadecimal, digits);
+}
+
+template <class R, class T>
+constexpr Row<R> ipv4(Field<R, T> field, const char* form)
+{
+    static_assert(rows::is_bytes<T, 4>);
+    return rows::row(field, RowData::Kind::value, form, nullptr, nullptr, Value::Form::ipv4);
+}
+
+template <class R, class T>
+constexpr Row<R> ipv6(Field<R, T> field, const char* form)
+{
+    static_assert(rows::is_bytes<T, 16>);
+    return rows::row(field, RowData::Kind::value, form, nullptr, nullptr, Value::Form::ipv6);
+}
+
+template <class R, class T>
+constexpr Row<R> serial(Field<R, T> field, const char* form)
+{
+    static_assert(rows::is_bytes<T, 8>);
+    return rows::row(field, RowData::Kind::value, form, nullptr, nullptr, Value::Form::serial);
+}
+
+template <class R, class T>
+constexpr Row<R> engine_id(Field<R, T> field, const char* form)
+{
+    static_assert(rows::is_bytes<T, 13>);
+    return rows::row(field, RowData::Kind::value, form, nullptr, nullptr, Value::Form::engine_id);
+}
+
+/// The characters of the field, as stored.
+template <class R, class T>
+constexpr Row<R> text(Field<R, T> field, const char* form)
+{
+    static_assert(std::is_same_v<std::remove_extent_t<T>, char> && std::is_array_v<T>);
+    return rows::row(field, RowData::Kind::text, form);
+}
+
+/// An ONT password: at most 10 characters, the last byte of the field is never read.
+template <class R, class T>
+constexpr Row<R> ont_password(Field<R, T> field, const char* form)
+{
+    static_assert(std::is_same_v<T, char[11]>);
+    Row<R> row = text(field, form);
+    row.data.size = 10;
+    return row;
+}
+
+/// The word of the device-wide registry in the vocabulary `type`.
+template <class R, class T>
+constexpr Row<R> enumeration(Field<R, T> field, const char* type, const char* form)
+{
+    static_assert(rows::is_number<T>);
+    return rows::row(field, RowData::Kind::enum_word, form, type);
+}
+
+/// The word of one of the library's own vocabularies.
+template <class R, class T>
+constexpr Row<R> word(Field<R, T> field, const char* (*vocabulary)(int), const char* form)
+{
+    static_assert(rows::is_number<T>);
+    return rows::row(field, RowData::Kind::word, form, nullptr, vocabulary);
+}
+
+/// A profile or template that the field refers to, by its name; nothing is emitted while the slot holds none.
+template <class R, class T>
+constexpr Row<R> reference(Field<R, T> field, const char* (*lookup)(int), const char* form)
+{
+    static_assert(std::is_same_v<T, std::int16_t>);
+    return rows::row(field, RowData::Kind::reference, form, nullptr, lookup);
+}
+
+/// The same row for element `index` of the array whose first element it names.
+template <class Record>
+constexpr Row<Record> element(Row<Record> row, std::size_t index)
+{
+    row.data.offset = static_cast<std::uint16_t>(row.data.offset + index * row.data.size);
+    return row;
+}
+
+/// Emits one row of two records, when it has changed or is forced.
+void emit_row(const RowData& row, bool force, const void* lhs, const void* rhs, const Where& where);
+
+template <class Record>
+void emit_changed(const Row<Record>& row, Rule rule, const Record* lhs, const Record* rhs, const Where& where)
+{
+    emit_row(row.data, forced(rule), lhs, rhs, where);
+}
+
+template <class Record, std::size_t N>
+void emit_changed(const Row<Record> (&table)[N], Rule rule, const Record* lhs, const Record* rhs, const Where& where)
+{
+    const bool force = forced(rule);
+    for (const Row<Record>& row : table)
+        emit_row(row.data, force, lhs, rhs, where);
+}
+
+// -------------------------------------------------------------------------------------------- records in a record
+
+/// Calls a record's diff on a part of two records when the part differs or is forced.
+template <class Result, class Part>
+void descend(Rule rule, Result (*diff)(Part*, Part*, int*, List<char>&), Part& lhs, Part& rhs, int* key,
+             List<char>& out)
+{
+    if (wanted(rule, lhs, rhs))
+        diff(&lhs, &rhs, key, out);
+}
+
+/// The same for each element of an array in turn: its index goes into the key's slot first, wanted or not.
+template <class Result, class Element, std::size_t N>
+void walk(Rule rule, Result (*diff)(Element*, Element*, int*, List<char>&), Element (&lhs)[N], Element (&rhs)[N],
+          int slot, int* key, List<char>& out)
+{
+    for (std::size_t i = 0; i < N; ++i) {
+        key[slot] = static_cast<int>(i);
+        descend(rule, diff, lhs[i], rhs[i], key, out);
+    }
+}
+
+} // namespace pondiff
+
+#endif
