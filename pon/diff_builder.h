@@ -35,9 +35,9 @@ struct ListElem {
 template <class T>
 class List {
   public:
-    ListElem<T>* first;
-    ListElem<T>* last;
-    int lsize;
+    ListElem<T>* first = nullptr;
+    ListElem<T>* last = nullptr;
+    int lsize = 0;
 
     List();
     ~List();
@@ -121,6 +121,8 @@ bool getdiff_GSystemLogDestCfg(GSystemLogDestCfg* lhs, GSystemLogDestCfg* rhs, i
 bool getdiff_GSystemLogCfg(GSystemLogCfg* lhs, GSystemLogCfg* rhs, int* key, List<char>& out);
 bool getdiff_GSubmoduleLogCfg(GSubmoduleLogCfg* lhs, GSubmoduleLogCfg* rhs, int* key, List<char>& out);
 bool getdiff_GSystemNtpCfg(GSystemNtpCfg* lhs, GSystemNtpCfg* rhs, int* key, List<char>& out);
+/// Steps of the device's temperature, for its software: no command uses them.
+extern const int TEMPERATURE_LEVELS[8];
 bool getdiff_GSystemAlarmCfg(GSystemAlarmCfg* lhs, GSystemAlarmCfg* rhs, int* key, List<char>& out);
 bool getdiff_GSystemAlarmTypeCfg(GSystemAlarmTypeCfg* lhs, GSystemAlarmTypeCfg* rhs, int* key, List<char>& out);
 bool getdiff_GSystemAlarmSystemCfg(GSystemAlarmSystemCfg* lhs, GSystemAlarmSystemCfg* rhs, int* key, List<char>& out);

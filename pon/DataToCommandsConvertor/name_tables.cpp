@@ -99,6 +99,18 @@ bool any_byte_set(const char* bytes, std::size_t size)
     return false;
 }
 
+/// A name that may fill its array to the last byte.
+char* copy_of(const char* name, std::size_t capacity)
+{
+    const std::size_t size = strnlen(name, capacity);
+    auto* const copy = static_cast<char*>(std::malloc(size + 1));
+    if (copy) {
+        std::memcpy(copy, name, size);
+        copy[size] = '\0';
+    }
+    return copy;
+}
+
 /// The names of every object that exists, each in a block of its own; the table is empty before.
 bool fill(const NameTable& table, char** names, const GCfg& configuration)
 {
@@ -106,7 +118,7 @@ bool fill(const NameTable& table, char** names, const GCfg& configuration)
     for (std::size_t i = 0; i < table.slots; ++i, object += table.stride) {
         if (!any_byte_set(object + table.exists, table.exists_size))
             continue;
-        names[i] = strndup(object + table.name, table.name_size);
+        names[i] = copy_of(object + table.name, table.name_size);
         if (!names[i])
             return false;
     }

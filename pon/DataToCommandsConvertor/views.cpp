@@ -270,9 +270,8 @@ bool direct_way(ViewId standing, ViewId wanted, const char* view, const int* key
 
 bool joined_to_root(ViewId id)
 {
-    const RowGroup& from_root = commandsv2v[0];
-    for (std::size_t i = 0; i < from_root.count; ++i)
-        if (from_root.to[i] == id)
+    for (const ViewId to : commandsv2v[0].to)
+        if (to == id)
             return true;
     return false;
 }

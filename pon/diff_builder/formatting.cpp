@@ -46,7 +46,7 @@ void append_ipv4(Text& out, const std::uint8_t* address)
 
 void append_ipv6(Text& out, const void* address)
 {
-    char words[INET6_ADDRSTRLEN] = "";
+    char words[INET6_ADDRSTRLEN] = {};
     inet_ntop(AF_INET6, address, words, sizeof words);
     out.append(words);
 }
@@ -54,7 +54,7 @@ void append_ipv6(Text& out, const void* address)
 template <std::size_t Size, class Converter>
 void append_converted(Text& out, Converter convert, const std::uint8_t* bytes)
 {
-    char words[Size] = "";
+    char words[Size] = {};
     convert(words, bytes);
     out.append(words);
 }

@@ -29,7 +29,7 @@ class Value {
     };
 
     /// A constant text or name; null is the empty text.
-    Value(const char* text) : Value(Form::text, text, text ? std::strlen(text) : 0) {}
+    Value(const char* text) : Value(Form::text, text ? text : "", text ? std::strlen(text) : 0) {}
     /// A text field has no terminator that can be relied on: `text(field)` knows its array.
     Value(char* field) = delete;
     Value(int number) : form_(Form::decimal), number_(number) {}

@@ -4,9 +4,7 @@
 #include <cstring>
 
 template <class T>
-List<T>::List() : first(nullptr), last(nullptr), lsize(0)
-{
-}
+List<T>::List() = default;
 
 template <class T>
 List<T>::~List()

@@ -1,0 +1,51 @@
+#include "tests/support/allocation.h"
+
+#include <cstddef>
+
+namespace {
+
+bool limited;
+int left;
+
+bool granted()
+{
+    return !limited || left-- > 0;
+}
+
+} // namespace
+
+LimitedAllocations::LimitedAllocations(int granted)
+{
+    left = granted;
+    limited = true;
+}
+
+LimitedAllocations::~LimitedAllocations()
+{
+    limited = false;
+}
+
+extern "C" {
+
+void* __real_malloc(std::size_t size);
+void* __real_calloc(std::size_t count, std::size_t size);
+void* __real_realloc(void* block, std::size_t size);
+void* __wrap_malloc(std::size_t size);
+void* __wrap_calloc(std::size_t count, std::size_t size);
+void* __wrap_realloc(void* block, std::size_t size);
+
+void* __wrap_malloc(std::size_t size)
+{
+    return granted() ? __real_malloc(size) : nullptr;
+}
+
+void* __wrap_calloc(std::size_t count, std::size_t size)
+{
+    return granted() ? __real_calloc(count, size) : nullptr;
+}
+
+void* __wrap_realloc(void* block, std::size_t size)
+{
+    return granted() ? __real_realloc(block, size) : nullptr;
+}
+}

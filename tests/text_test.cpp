@@ -1,0 +1,208 @@
+#include "pon/DataToCommandsConvertor/text.h"
+
+#include <climits>
+#include <cstdint>
+#include <cstdlib>
+#include <gtest/gtest.h>
+#include <string>
+#include <utility>
+#include <vector>
+
+using namespace pondiff;
+
+namespace {
+
+/// Digits in a block of their own, so that a sanitizer sees every access beyond it.
+std::string natural(std::uint64_t value)
+{
+    std::vector<char> out(20, 'x');
+    const std::size_t size = put_natural(out.data(), value);
+    return std::string(out.data(), size);
+}
+
+std::string decimal(std::int64_t value)
+{
+    std::vector<char> out(20, 'x');
+    const std::size_t size = put_decimal(out.data(), value);
+    return std::string(out.data(), size);
+}
+
+std::string content(const Text& text)
+{
+    return std::string(text.data(), text.size());
+}
+
+void append(Text& text, const std::string& bytes)
+{
+    text.append(bytes.data(), bytes.size());
+}
+
+std::string front_replaced(const std::string& before, std::size_t count, const std::string& replacement)
+{
+    Text text;
+    Text front;
+    append(text, before);
+    append(front, replacement);
+    text.replace_front(count, front);
+    EXPECT_EQ(content(front), replacement);
+    EXPECT_FALSE(text.failed());
+    return content(text);
+}
+
+} // namespace
+
+TEST(Digits, NaturalNumbers)
+{
+    EXPECT_EQ(natural(0), "0");
+    EXPECT_EQ(natural(UINT32_MAX), "4294967295");
+    EXPECT_EQ(natural(INT64_MAX), "9223372036854775807");
+    EXPECT_EQ(natural(UINT64_MAX), "18446744073709551615");
+}
+
+TEST(Digits, NaturalNumbersAroundEachPowerOfTen)
+{
+    std::uint64_t power = 1;
+    for (std::size_t zeros = 1; zeros < 20; zeros++) {
+        power *= 10;
+        EXPECT_EQ(natural(power), "1" + std::string(zeros, '0'));
+        EXPECT_EQ(natural(power - 1), std::string(zeros, '9'));
+        EXPECT_EQ(natural(power + 1), "1" + std::string(zeros - 1, '0') + "1");
+    }
+}
+
+TEST(Digits, DecimalNumbers)
+{
+    EXPECT_EQ(decimal(0), "0");
+    EXPECT_EQ(decimal(-1), "-1");
+    EXPECT_EQ(decimal(-10), "-10");
+    EXPECT_EQ(decimal(INT_MIN), "-2147483648");
+    EXPECT_EQ(decimal(INT64_MAX), "9223372036854775807");
+    EXPECT_EQ(decimal(INT64_MIN), "-9223372036854775808");
+}
+
+TEST(ScratchText, IsEmptyAtFirst)
+{
+    Text text;
+    EXPECT_EQ(text.size(), 0u);
+    EXPECT_STREQ(text.c_str(), "");
+    EXPECT_FALSE(text.failed());
+}
+
+TEST(ScratchText, TakesTextsBytesAndNumbers)
+{
+    Text text;
+    text.append("port ");
+    text.append_natural(7);
+    text.append(" of ");
+    text.append_decimal(-8);
+    text.append("!more", 1);
+    text.append("", 0);
+    text.append("");
+    EXPECT_STREQ(text.c_str(), "port 7 of -8!");
+    EXPECT_EQ(text.size(), 13u);
+}
+
+TEST(ScratchText, TakesTheLongestNumbers)
+{
+    Text text;
+    text.append_natural(UINT64_MAX);
+    text.append_decimal(INT64_MIN);
+    EXPECT_STREQ(text.c_str(), "18446744073709551615-9223372036854775808");
+}
+
+TEST(ScratchText, IdentifiersStandInFourCharactersOrMore)
+{
+    const std::pair<int, const char*> identifiers[] = {
+        {0, "   0"},   {42, "  42"},   {999, " 999"},    {1000, "1000"},          {12345, "12345"},        {-1, "  -1"},
+        {-99, " -99"}, {-999, "-999"}, {-1000, "-1000"}, {INT_MAX, "2147483647"}, {INT_MIN, "-2147483648"}};
+    for (const auto& [value, shown] : identifiers) {
+        Text text;
+        text.append("<");
+        text.append_aligned(value);
+        text.append(">");
+        EXPECT_STREQ(text.c_str(), ("<" + std::string(shown) + ">").c_str());
+    }
+}
+
+TEST(ScratchText, OfEveryLengthAroundItsRoomOnTheStack)
+{
+    for (std::size_t length = 1000; length < 1100; length++) {
+        const std::string bytes(length, 'v');
+        Text whole;
+        append(whole, bytes);
+        EXPECT_EQ(whole.c_str(), bytes);
+        Text pieces;
+        for (const char byte : bytes)
+            pieces.append(&byte, 1);
+        EXPECT_EQ(pieces.c_str(), bytes);
+        pieces.append_natural(UINT64_MAX);
+        pieces.append_aligned(5);
+        EXPECT_EQ(pieces.c_str(), bytes + "18446744073709551615   5");
+    }
+}
+
+TEST(ScratchText, GrowsAsFarAsNeeded)
+{
+    Text text;
+    std::string expected;
+    for (std::size_t i = 0; i < 500; i++) {
+        const std::string piece(i * 7, static_cast<char>('a' + i % 26));
+        append(text, piece);
+        expected += piece;
+    }
+    EXPECT_EQ(content(text), expected);
+    EXPECT_FALSE(text.failed());
+}
+
+TEST(ScratchText, HoldsAnyBytes)
+{
+    Text text;
+    append(text, std::string("\0\xFF\n\0", 4));
+    EXPECT_EQ(content(text), std::string("\0\xFF\n\0", 4));
+}
+
+TEST(ScratchText, IsUsedAnewOnceCleared)
+{
+    Text text;
+    append(text, std::string(3000, 'v'));
+    text.clear();
+    EXPECT_EQ(text.size(), 0u);
+    EXPECT_STREQ(text.c_str(), "");
+    text.append("again");
+    EXPECT_STREQ(text.c_str(), "again");
+}
+
+TEST(ScratchText, ItsFrontIsReplaced)
+{
+    EXPECT_EQ(front_replaced("user $ID0 x", 10, "user \"n\" "), "user \"n\" x");
+    EXPECT_EQ(front_replaced("abcdef", 3, "ABC"), "ABCdef");
+    EXPECT_EQ(front_replaced("abcdef", 3, ""), "def");
+    EXPECT_EQ(front_replaced("abcdef", 6, "longer than it"), "longer than it");
+    EXPECT_EQ(front_replaced("abcdef", 0, "in front of "), "in front of abcdef");
+    EXPECT_EQ(front_replaced("", 0, "new"), "new");
+    EXPECT_EQ(front_replaced("", 0, ""), "");
+}
+
+TEST(ScratchText, ItsFrontIsReplacedAcrossItsRoomOnTheStack)
+{
+    for (std::size_t length = 1000; length < 1060; length++) {
+        const std::string tail(length, 't');
+        EXPECT_EQ(front_replaced("head" + tail, 4, "a longer head "), "a longer head " + tail);
+        EXPECT_EQ(front_replaced("a longer head " + tail, 14, "head"), "head" + tail);
+    }
+    EXPECT_EQ(front_replaced("head", 4, std::string(5000, 'n')), std::string(5000, 'n'));
+}
+
+TEST(ScratchText, HandsOutCopies)
+{
+    for (const std::size_t length : {0u, 1u, 1023u, 1024u, 5000u}) {
+        Text text;
+        append(text, std::string(length, 'v'));
+        char* const copy = text.release_copy();
+        ASSERT_NE(copy, nullptr);
+        text.clear();
+        text.append("something else");
+        EXPECT_EQ(copy, std::string(length, 'v'));
+        std::free(copy);
+    }
+}
