@@ -141,4 +141,177 @@ TEST(FullDiff, OutsideASessionTheScriptStartsAtTheTopLevel)
     EXPECT_EQ(session.full_diff(), "configure terminal\nhostname \"olt-17\"\nexit\ncommit\n");
 }
 
+TEST(FullDiff, CommonRecordsInOrder)
+{
+    Session session;
+    session.cfg->system.services.source_guard.vid[4094].allowed = 1;
+    session.cfg->pon.network.mac_age_time = 300;
+    session.cfg->system.settings.ont_sn_format = 2;
+    session.cfg->system.services.alarm.type[7].type = 3;
+    session.cfg->system.services.alarm.type[7].severity = 1;
+    session.cfg->system.services.cli.session_timeout = 600;
+    session.cfg->system.services.ntp.enabled = 1;
+    session.open(0, 1);
+    EXPECT_EQ(session.full_diff(), "configure terminal\n"
+                                   "cli session-timeout \"600\"\n"
+                                   "alarm login severity \"critical\"\n"
+                                   "cli ont-sn-format \"dashed\"\n"
+                                   "gpon network mac-age-time \"300\"\n"
+                                   "ip source-guard ignore-vlan 4094\n"
+                                   "exit\n"
+                                   "commit\n");
+}
+
+TEST(FullDiff, CommonRecordsAreForcedByPrintAll)
+{
+    Session session;
+    session.cfg->system.services.alarm.type[0].type = 13;
+    session.settle();
+    session.open(1, 1);
+    const std::string text = session.full_diff();
+    const std::string front = "configure terminal\ncli session-timeout \"0\"\ncli max-sessions \"0\"\n";
+    const std::string back = "no ip source-guard enable\nip source-guard mode static\nexit\ncommit\n";
+    EXPECT_EQ(text.substr(0, front.size()), front);
+    EXPECT_NE(text.find("no cli display profile dba\nalarm fan severity \"indeterminate\"\n"), std::string::npos);
+    EXPECT_NE(text.find("alarm free-space level \"0\"\ncli ont-sn-format \"pretty\"\ngpon network mac-age-time"),
+              std::string::npos);
+    ASSERT_GE(text.size(), back.size());
+    EXPECT_EQ(text.substr(text.size() - back.size()), back);
+}
+
+TEST(FullDiff, OltProfilesStandBetweenTheNetworkAndTheOntProfiles)
+{
+    Session session;
+    session.cfg->pon.profiles_ont.management[0].exist = 1;
+    put(session.cfg->pon.profiles_ont.management[0].name, "m");
+    session.cfg->pon.profiles_olt.vlan[4].exist = 1;
+    put(session.cfg->pon.profiles_olt.vlan[4].name, "office");
+    session.orig->pon.profiles_olt.address_table[31].exist = 1;
+    put(session.orig->pon.profiles_olt.address_table[31].name, "old");
+    session.cfg->pon.network.mac_age_time = 300;
+    session.open();
+    EXPECT_EQ(session.full_diff(), "configure terminal\n"
+                                   "gpon network mac-age-time \"300\"\n"
+                                   "profile vlan \"office\"\n"
+                                   "exit\n"
+                                   "no profile address-table old\n"
+                                   "profile management \"m\"\n"
+                                   "exit\n"
+                                   "exit\n"
+                                   "commit\n");
+}
+
+TEST(FullDiff, CommonRecordsIncludeTheOltSettingsButNotItsPorts)
+{
+    Session session;
+    session.cfg->pon.network.mac_age_time = 300;
+    session.cfg->pon.olt.general.ont_block_time = 60;
+    session.cfg->pon.olt.general.encryption.enable = 1;
+    session.cfg->pon.olt.channel[3].fec_down = 1;
+    session.cfg->system.services.source_guard.vid[7].allowed = 1;
+    session.open(0, 1);
+    EXPECT_EQ(session.full_diff(), "configure terminal\n"
+                                   "gpon network mac-age-time \"300\"\n"
+                                   "ont block-time \"60\"\n"
+                                   "gpon olt encryption\n"
+                                   "ip source-guard ignore-vlan    7\n"
+                                   "exit\n"
+                                   "commit\n");
+}
+
+TEST(FullDiff, OltStandsBetweenTheProfilesAndTheOnts)
+{
+    Session session;
+    session.cfg->pon.profiles_ont.management[0].exist = 1;
+    put(session.cfg->pon.profiles_ont.management[0].name, "m");
+    session.cfg->pon.olt.general.ont_block_time = 60;
+    session.cfg->pon.olt.channel[3].fec_down = 1;
+    session.cfg->pon.ont[5].exist = 1;
+    session.cfg->pon.ont[5].fec_up = 1;
+    session.open();
+    EXPECT_EQ(session.full_diff(), "configure terminal\n"
+                                   "profile management \"m\"\n"
+                                   "exit\n"
+                                   "ont block-time \"60\"\n"
+                                   "interface gpon-port    3\n"
+                                   "fec\n"
+                                   "exit\n"
+                                   "interface ont 0/5\n"
+                                   "fec\n"
+                                   "exit\n"
+                                   "exit\n"
+                                   "commit\n");
+}
+
+TEST(FullDiff, OntsAreCreatedChangedAndDeletedInIndexOrder)
+{
+    Session session;
+    for (const int changed : {63, 70, 511})
+        session.orig->pon.ont[changed].exist = session.cfg->pon.ont[changed].exist = 1;
+    for (const int deleted : {64, 512})
+        session.orig->pon.ont[deleted].exist = 1;
+    for (const int created : {0, 531})
+        session.cfg->pon.ont[created].exist = 1;
+    put(session.orig->pon.ont[64].description, "gone");
+    put(session.cfg->pon.ont[63].description, "kiosk");
+    session.cfg->pon.ont[511].port[2].shutdown = 1;
+    put(session.cfg->pon.ont[531].description, "last");
+    session.open();
+    EXPECT_EQ(session.full_diff(), "configure terminal\n"
+                                   "interface ont 0/0\n"
+                                   "exit\n"
+                                   "interface ont 0/63\n"
+                                   "description \"kiosk\"\n"
+                                   "exit\n"
+                                   "no interface ont 1/0\n"
+                                   "interface ont 7/63\n"
+                                   "port    2 shutdown\n"
+                                   "exit\n"
+                                   "no interface ont 8/0\n"
+                                   "interface ont 8/19\n"
+                                   "description \"last\"\n"
+                                   "exit\n"
+                                   "exit\n"
+                                   "commit\n");
+}
+
+TEST(FullDiff, PrintAllNeverShowsAnEqualOnt)
+{
+    Session session;
+    for (const int index : {1, 70, 531}) {
+        session.cfg->pon.ont[index].exist = 1;
+        put(session.cfg->pon.ont[index].description, "kiosk");
+    }
+    session.settle();
+    for (const int common : {0, 2}) {
+        session.open(1, common);
+        EXPECT_EQ(session.full_diff().find("\ninterface ont"), std::string::npos);
+    }
+    session.cfg->pon.ont[70].revision = 2;
+    const std::string text = session.full_diff();
+    const std::size_t at = text.find("\ninterface ont 1/6\ndescription \"kiosk\"\nshutdown\n");
+    EXPECT_NE(at, std::string::npos);
+    EXPECT_EQ(text.find("\ninterface ont"), at);
+    EXPECT_EQ(text.rfind("\ninterface ont"), at);
+}
+
+TEST(FullDiff, WalkOverTheOntsLeavesItsKeys)
+{
+    const auto walk = std::make_unique<Diff<GPonCfg>>(getdiff_GPonCfg);
+    walk->key[0] = 4;
+    EXPECT_EQ(walk->elements(), Elements{});
+    EXPECT_EQ(walk->key[0], 4);
+    walk->after.ont[2].exist = walk->after.ont[9].exist = 1;
+    put(walk->after.ont[2].description, "$ID0 $ID1");
+    put(walk->after.ont[9].description, "$ID0 $ID1");
+    EXPECT_EQ(walk->script(), "configure terminal\n"
+                              "interface ont 0/2\n"
+                              "description \"   2    0\"\n"
+                              "exit\n"
+                              "interface ont 0/9\n"
+                              "description \"   9    3\"\n");
+    EXPECT_EQ(walk->key[0], 531);
+    EXPECT_EQ(walk->key[1], 3);
+}
+
 } // namespace

@@ -9,8 +9,12 @@ namespace {
 /// The records that a diff of the common settings shows, each under its own rule.
 void diff_common_records(GCfg& orig, GCfg& cfg, int* key, List<char>& out)
 {
+    getdiff_GSystemCliCfg(&orig.system.services.cli, &cfg.system.services.cli, key, out);
+    getdiff_GSystemAlarmCfg(&orig.system.services.alarm, &cfg.system.services.alarm, key, out);
     getdiff_GSystemCommonSettings(&orig.system.settings, &cfg.system.settings, key, out);
     getdiff_GPonNetworkCfg(&orig.pon.network, &cfg.pon.network, key, out);
+    getdiff_GPonOltGeneralCfg(&orig.pon.olt.general, &cfg.pon.olt.general, key, out);
+    getdiff_GSystemSourceGuardCfg(&orig.system.services.source_guard, &cfg.system.services.source_guard, key, out);
 }
 
 } // namespace
@@ -43,5 +47,9 @@ bool getdiff_GPonCfg(GPonCfg* lhs, GPonCfg* rhs, int* key, List<char>& out)
     if (nothing_to_say(lhs, rhs))
         return false;
     descend(changed_or_all, getdiff_GPonNetworkCfg, lhs->network, rhs->network, key, out);
+    descend(changed_or_all, getdiff_GPonProfilesOlt, lhs->profiles_olt, rhs->profiles_olt, key, out);
+    descend(changed_or_all, getdiff_GPonProfilesOnt, lhs->profiles_ont, rhs->profiles_ont, key, out);
+    descend(changed_or_all, getdiff_GPonOltCfg, lhs->olt, rhs->olt, key, out);
+    walk(changed_only, getdiff_GPonOntCfg, lhs->ont, rhs->ont, 0, key, out); // equal ONTs are never shown
     return false;
 }

@@ -49,6 +49,15 @@ void emit_profile_head(const Profile* lhs, const Profile* rhs, const Where& wher
     emit_profile_description(lhs, rhs, where);
 }
 
+/// A format by which a relay agent identifies a subscriber, and whether what it gives is sent in binary form. The mode
+/// shows with its format: by itself it is no change.
+template <std::size_t N>
+void emit_id_format(const Where& where, const char* form, const char (&lhs)[N], const char (&rhs)[N], GDataMode_t mode)
+{
+    if (wanted(changed_or_all, lhs, rhs))
+        emit(where, form, channel_format(rhs), mode != 0 ? " binary" : "");
+}
+
 /// The version and file of the ONT's configuration, one command. A new file is seen only together with a new version.
 template <class Profile>
 void emit_ont_config(const Profile* lhs, const Profile* rhs, const Where& where)

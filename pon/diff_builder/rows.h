@@ -258,6 +258,15 @@ constexpr Row<R> text(Field<R, T> field, const char* form)
     return rows::row(field, RowData::Kind::text, form);
 }
 
+/// The same for a format in which the marker of the GPON port is renamed.
+template <class R, std::size_t N>
+constexpr Row<R> channel_format(Field<R, char[N]> field, const char* form)
+{
+    Row<R> row = text(field, form);
+    row.data.how = Value::Form::channel_format;
+    return row;
+}
+
 /// An ONT password: at most 10 characters, the last byte of the field is never read.
 template <class R, class T>
 constexpr Row<R> ont_password(Field<R, T> field, const char* form)

@@ -1,4 +1,4 @@
-#include "pon/diff_builder/rows.h"
+#include "pon/diff_builder/profile.h"
 
 using namespace pondiff;
 
@@ -14,5 +14,23 @@ bool getdiff_GVlanGeneralCfg(GVlanGeneralCfg* lhs, GVlanGeneralCfg* rhs, int* ke
         return false;
     const Value direction = key[1] != 0 ? "downlink" : "uplink";
     emit_changed(commands, changed_or_all, lhs, rhs, {"vlan-view", key, out, &direction});
+    return false;
+}
+
+/// The name is never forced: a full dump does not repeat it.
+bool getdiff_GPonProfileOltVlan(GPonProfileOltVlan* lhs, GPonProfileOltVlan* rhs, int* key, List<char>& out)
+{
+    if (no_profile(lhs, rhs))
+        return false;
+    if (rhs->exist == 0) {
+        navigate({"configure-view", key, out});
+        append(out, "no profile vlan %s", text(lhs->name));
+        return false;
+    }
+    const Where where{"vlan-view", key, out};
+    enter_new_profile(lhs, rhs, where);
+    emit_profile_name(changed_only, lhs, rhs, where);
+    emit_profile_description(lhs, rhs, where);
+    walk(changed_or_all, getdiff_GVlanGeneralCfg, lhs->config_general, rhs->config_general, 1, key, out);
     return false;
 }

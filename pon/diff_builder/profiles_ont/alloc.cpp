@@ -1,6 +1,28 @@
-#include "pon/diff_builder/rows.h"
+#include "pon/diff_builder/profile.h"
 
 using namespace pondiff;
+
+bool getdiff_GPonProfileOntAlloc(GPonProfileOntAlloc* lhs, GPonProfileOntAlloc* rhs, int* key, List<char>& out)
+{
+    static constexpr Row<GPonProfileOntAlloc> allocation_scheme =
+        on_off(FIELD(GPonProfileOntAlloc, allocate_new_alloc), "allocation-scheme allocate-new-t-cont",
+               "no allocation-scheme");
+    if (no_profile(lhs, rhs))
+        return false;
+    const Where where{"dba-view", key, out};
+    emit_profile_head(lhs, rhs, where);
+    emit_changed(allocation_scheme, changed_or_all, lhs, rhs, where);
+    descend(changed_or_all, getdiff_GPonOntDba, lhs->dba, rhs->dba, key, out);
+    return false;
+}
+
+bool getdiff_GPonOntDba(GPonOntDba* lhs, GPonOntDba* rhs, int* key, List<char>& out)
+{
+    if (nothing_to_say(lhs, rhs))
+        return false;
+    char name[] = "sla_data";
+    return getdiff_GZorvanSLA(name, &lhs->sla_data, &rhs->sla_data, key, out);
+}
 
 bool getdiff_GZorvanSLA(char* /*name*/, GZorvanSLA* lhs, GZorvanSLA* rhs, int* key, List<char>& out)
 {

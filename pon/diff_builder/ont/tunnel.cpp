@@ -1,0 +1,56 @@
+#include "pon/diff_builder/rows.h"
+
+using namespace pondiff;
+
+namespace {
+
+constexpr int end_mark = -1;
+
+/// Sorts the list in place, ascending, one pass after another until the place that a pass is counted for holds an end
+/// mark. A mark never moves to the front: what stands before it and what stands behind are sorted apart, only values
+/// below it pass it. The elements are packed: they are reached by value alone.
+void sort_vids(GPonOntSelectiveTunnel& tunnel)
+{
+    constexpr int last = GCFG_TUNNEL_VIDS - 1;
+    for (int pass = 0; pass < last && tunnel.uvid[pass] != end_mark; ++pass) {
+        for (int i = 0; i < last - pass; ++i) {
+            const s16 vid = tunnel.uvid[i];
+            const s16 next = tunnel.uvid[i + 1];
+            if (next >= vid || next == end_mark)
+                continue;
+            tunnel.uvid[i] = next;
+            tunnel.uvid[i + 1] = vid;
+        }
+    }
+}
+
+/// The values up to the end mark, separated by commas; a run of successive ones is written as its first and last.
+void append_ranges(const GPonOntSelectiveTunnel& tunnel, Text& list)
+{
+    bool in_run = false;
+    for (int i = 0; i < GCFG_TUNNEL_VIDS && tunnel.uvid[i] != end_mark; ++i) {
+        const int vid = tunnel.uvid[i];
+        const bool run_goes_on =
+            i + 1 < GCFG_TUNNEL_VIDS && tunnel.uvid[i + 1] != end_mark && tunnel.uvid[i + 1] == vid + 1;
+        if (in_run && run_goes_on)
+            continue;
+        if (i != 0)
+            list.append(in_run ? "-" : ",", 1);
+        list.append_decimal(vid);
+        in_run = run_goes_on;
+    }
+}
+
+} // namespace
+
+/// Does not compare: the whole list is given anew.
+bool getdiff_GPonOntSelectiveTunnel(GPonOntSelectiveTunnel* lhs, GPonOntSelectiveTunnel* rhs, int* key, List<char>& out)
+{
+    if (!lhs || !rhs)
+        return false;
+    sort_vids(*rhs);
+    Text list;
+    append_ranges(*rhs, list);
+    emit({"if-ont-view", key, out}, "service $ID1 selective-tunnel uvid %s", Value::text(list.data(), list.size()));
+    return false;
+}

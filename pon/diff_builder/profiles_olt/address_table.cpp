@@ -1,0 +1,65 @@
+#include "pon/diff_builder/profile.h"
+
+using namespace pondiff;
+
+/// The aging timer has no command.
+bool getdiff_GAddressTableConfig(GAddressTableConfig* lhs, GAddressTableConfig* rhs, int* key, List<char>& out)
+{
+    static constexpr Row<GAddressTableConfig> commands[] = {
+        on_off(FIELD(GAddressTableConfig, remove_when_aged), "remove-when-aged", "no remove-when-aged"),
+        on_off(FIELD(GAddressTableConfig, discard_pid_unlearned_sa), "discard-pid-unlearned-sa",
+               "no discard-pid-unlearned-sa"),
+    };
+    if (nothing_to_say(lhs, rhs))
+        return false;
+    emit_changed(commands, changed_or_all, lhs, rhs, {"address-table-view", key, out});
+    return false;
+}
+
+/// Whether a slot is in use hangs on its S-VLAN, not on `exist`. No command removes the entry of an S-VLAN.
+bool getdiff_GSvlanAddressTableConfig(GSvlanAddressTableConfig* lhs, GSvlanAddressTableConfig* rhs, int* key,
+                                      List<char>& out)
+{
+    static constexpr Row<GSvlanAddressTableConfig> settings[] = {
+        enumeration(FIELD(GSvlanAddressTableConfig, forwarding_mode), "GVlanForwardingMode_enum",
+                    "s-vlan %d forwarding-mode \"%s\""),
+        on_off(FIELD(GSvlanAddressTableConfig, use_svlan), "s-vlan %d use s-vlan", "no s-vlan %d use s-vlan"),
+        on_off(FIELD(GSvlanAddressTableConfig, use_cvlan), "s-vlan %d use c-vlan", "no s-vlan %d use c-vlan"),
+        on_off(FIELD(GSvlanAddressTableConfig, use_pbits), "s-vlan %d use pbits", "no s-vlan %d use pbits"),
+        on_off(FIELD(GSvlanAddressTableConfig, discard_unknown), "s-vlan %d discard-unknown",
+               "no s-vlan %d discard-unknown"),
+    };
+    if (nothing_to_say(lhs, rhs) || (lhs->svlan == 0 && rhs->svlan == 0))
+        return false;
+    const Value svlan = rhs->svlan;
+    const Where where{"address-table-view", key, out, &svlan};
+    // The command of any setting names the S-VLAN too; by itself it is named only where no setting has changed.
+    GSvlanAddressTableConfig old_settings = *lhs;
+    old_settings.exist = rhs->exist;
+    old_settings.svlan = rhs->svlan;
+    if (wanted(changed_or_all, old_settings, *rhs))
+        emit_changed(settings, changed_or_all, lhs, rhs, where);
+    else if ((lhs->exist == 0 && rhs->exist != 0) || lhs->svlan != rhs->svlan)
+        emit(where, "s-vlan %d");
+    return false;
+}
+
+/// The name is forced: a full dump repeats it.
+bool getdiff_GPonProfileOltAddressTable(GPonProfileOltAddressTable* lhs, GPonProfileOltAddressTable* rhs, int* key,
+                                        List<char>& out)
+{
+    if (no_profile(lhs, rhs))
+        return false;
+    if (rhs->exist == 0) {
+        navigate({"configure-view", key, out});
+        append(out, "no profile address-table %s", text(lhs->name));
+        return false;
+    }
+    const Where where{"address-table-view", key, out};
+    enter_new_profile(lhs, rhs, where);
+    emit_profile_name(changed_or_all, lhs, rhs, where);
+    emit_profile_description(lhs, rhs, where);
+    descend(changed_or_all, getdiff_GAddressTableConfig, lhs->table_config, rhs->table_config, key, out);
+    walk(changed_or_all, getdiff_GSvlanAddressTableConfig, lhs->svlan_config, rhs->svlan_config, 1, key, out);
+    return false;
+}

@@ -1,0 +1,22 @@
+#include "pon/diff_builder/rows.h"
+
+using namespace pondiff;
+
+/// A full dump, too, shows only the routes that differ.
+bool getdiff_GSystemRoutingCfg(GSystemRoutingCfg* lhs, GSystemRoutingCfg* rhs, int* key, List<char>& out)
+{
+    if (nothing_to_say(lhs, rhs))
+        return false;
+    walk(changed_only, getdiff_GSystemRouteCfg, lhs->route, rhs->route, 0, key, out);
+    return false;
+}
+
+/// There is no command that removes a route: a cleared slot is emitted with its cleared values.
+bool getdiff_GSystemRouteCfg(GSystemRouteCfg* lhs, GSystemRouteCfg* rhs, int* key, List<char>& out)
+{
+    if (nothing_to_say(lhs, rhs))
+        return false;
+    emit({"configure-view", key, out}, "ip route prefix $ID0 mask \"%s\" gateway \"%s\"", rhs->mask,
+         ipv4(rhs->gateway));
+    return false;
+}
