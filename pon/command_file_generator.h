@@ -13,6 +13,8 @@
 #include "pon/diff_builder.h"
 #include "pon/visibility.h"
 
+#include <cstdio>
+
 PON_EXPORTS_BEGIN
 
 /// Opens a session. A session that is still open is closed first.
@@ -34,6 +36,64 @@ char* GetDiff(GCfg_t* orig, GCfg_t* cfg);
 /// The walk over the whole tree, and over its PON part; both always return false.
 bool getdiff_GCfg(GCfg* lhs, GCfg* rhs, int* key, List<char>& out);
 bool getdiff_GPonCfg(GPonCfg* lhs, GPonCfg* rhs, int* key, List<char>& out);
+
+// ------------------------------------------------------------------------------------------------- stream variants
+
+/// The stream of the operation under way, for whoever is interested; null outside these calls. The library writes
+/// nothing to it.
+extern FILE* file_to_dump;
+
+/// `GetDiff`, except that the common records are those without the CLI settings and the IP source guard.
+/// @param file  published in `file_to_dump` for as long as the call lasts; null publishes nothing
+char* GetDiffMemSafe(GCfg_t* orig, GCfg_t* cfg, FILE* file);
+
+/// The static routes, which a full diff leaves out; back to the top level, closed by "commit" when there is any text.
+char* GetRoutesDiffMemSafe(GSystemRoutingCfg_t* orig, GSystemRoutingCfg_t* cfg, FILE* file);
+
+// --------------------------------------------------------------------------------------------------- partial diffs
+//
+// They differ on purpose in where they begin and end:
+//
+//                            begins in           ends at the   "commit"
+//                            configure-view      top level
+//   GetSystemDiff            no                  no            no
+//   GetPonDiff               no                  no            no
+//   GetGponOntDiff           yes                 yes           no
+//   GetGponChannelDiff       yes                 yes           no
+//   GetGPonProfilesOltDiff   no                  yes           when there is any text
+//   GetGPonProfilesOntDiff   no                  yes           when there is any text
+//   GetProfileDiff           yes                 yes           always, the navigations are text
+//   GetBlockDiff             yes                 yes           always
+//   GetAlarmDiff             yes                 yes           always
+//   GetTerminalVlanHeaders   yes                 no            no
+//
+// Where the script is left elsewhere, the next operation of the session goes on from there.
+
+char* GetSystemDiff(GSystemCfg_t* orig, GSystemCfg_t* cfg);
+char* GetPonDiff(GPonCfg_t* orig, GPonCfg_t* cfg);
+
+/// @param ont_index  0 to 531
+char* GetGponOntDiff(GPonOntCfg_t* orig, GPonOntCfg_t* cfg, int ont_index);
+
+/// @param channel_index  GPON port, 0 to 7
+char* GetGponChannelDiff(GPonOltChannelCfg_t* orig, GPonOltChannelCfg_t* cfg, int channel_index);
+
+char* GetGPonProfilesOltDiff(GPonProfilesOlt_t* orig, GPonProfilesOlt_t* cfg);
+char* GetGPonProfilesOntDiff(GPonProfilesOnt_t* orig, GPonProfilesOnt_t* cfg);
+
+/// @param profile  the kind: "address-table", "cross-connect", "dba", "dhcp-ra", "dhcpv6-ra", "management", "ports",
+///                 "voice", "pppoe-ia", "shaping", "vlan" or "template"; anything else selects nothing
+/// @param id       a slot, rendered without comparing it first; negative for every slot that differs
+char* GetProfileDiff(GPonCfg_t* orig, GPonCfg_t* cfg, char* profile, int id);
+
+/// @param cmd  "olt", "network", "backup", "cli", "config", "management", "ntp", "snmp", "ssh", "source_guard",
+///             "telnet", "logging", "user" or "route"; anything else selects nothing
+char* GetBlockDiff(GCfg_t* orig, GCfg_t* cfg, char* cmd);
+
+char* GetAlarmDiff(GCfg_t* orig, GCfg_t* cfg);
+
+/// Declares every terminal VLAN of the session's new configuration by name.
+char* GetTerminalVlanHeaders();
 
 PON_EXPORTS_END
 

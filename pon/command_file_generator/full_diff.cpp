@@ -1,3 +1,5 @@
+#include "pon/command_file_generator/full_diff.h"
+
 #include "pon/command_file_generator.h"
 #include "pon/command_file_generator/operation.h"
 #include "pon/diff_builder/rows.h"
@@ -6,31 +8,38 @@ using namespace pondiff;
 
 namespace {
 
-/// The records that a diff of the common settings shows, each under its own rule.
-void diff_common_records(GCfg& orig, GCfg& cfg, int* key, List<char>& out)
+/// Each under its own rule: nothing is compared at this level.
+void diff_common_records(GCfg& orig, GCfg& cfg, CommonSet set, int* key, List<char>& out)
 {
-    getdiff_GSystemCliCfg(&orig.system.services.cli, &cfg.system.services.cli, key, out);
+    if (set == CommonSet::whole)
+        getdiff_GSystemCliCfg(&orig.system.services.cli, &cfg.system.services.cli, key, out);
     getdiff_GSystemAlarmCfg(&orig.system.services.alarm, &cfg.system.services.alarm, key, out);
     getdiff_GSystemCommonSettings(&orig.system.settings, &cfg.system.settings, key, out);
     getdiff_GPonNetworkCfg(&orig.pon.network, &cfg.pon.network, key, out);
     getdiff_GPonOltGeneralCfg(&orig.pon.olt.general, &cfg.pon.olt.general, key, out);
-    getdiff_GSystemSourceGuardCfg(&orig.system.services.source_guard, &cfg.system.services.source_guard, key, out);
+    if (set == CommonSet::whole)
+        getdiff_GSystemSourceGuardCfg(&orig.system.services.source_guard, &cfg.system.services.source_guard, key, out);
 }
 
 } // namespace
 
-char* GetDiff(GCfg_t* orig, GCfg_t* cfg)
+char* pondiff::full_diff(GCfg* orig, GCfg* cfg, CommonSet set)
 {
     constexpr int common_records_only = 1;
     Operation operation;
     if (orig && cfg) {
         if (print_common == common_records_only)
-            diff_common_records(*orig, *cfg, operation.key, operation.list);
+            diff_common_records(*orig, *cfg, set, operation.key, operation.list);
         else
             getdiff_GCfg(orig, cfg, operation.key, operation.list);
     }
     operation.go_to("root");
     return operation.finish(Ending::commit);
+}
+
+char* GetDiff(GCfg_t* orig, GCfg_t* cfg)
+{
+    return full_diff(orig, cfg, CommonSet::whole);
 }
 
 bool getdiff_GCfg(GCfg* lhs, GCfg* rhs, int* key, List<char>& out)

@@ -1,0 +1,115 @@
+/*
+ * pondiff: the CLI commands that turn one configuration of a GPON OLT into another.
+ *
+ * The plain entry points, for C and for every language that loads a library by symbol names. C++ callers have the
+ * typed operations of <pon/command_file_generator.h>; each function here forwards to the one that it is named after,
+ * with the one exception that GetSystemDiff_c states.
+ *
+ * Order of calls: initiate_diff_c, any number of operations on the same two configurations, finalize_diff_c.
+ *
+ *     initiate_diff_c(&running, &wanted, 0, 0);
+ *     char* script = GetDiff_c(&running, &wanted);
+ *     if (script) fputs(script, stdout);
+ *     free(script);
+ *     finalize_diff_c();
+ *
+ * Ownership: the configurations belong to the caller, who keeps them unchanged while the session is open. They are only
+ * read, with one exception: the selective-tunnel lists (pon.ont[].tunnel[].uvid) of the wanted configuration are sorted
+ * in place where a diff shows them. Every text returned belongs to the caller, who releases it with free(); it is
+ * NUL-terminated, one command per line, each line closed by a line feed.
+ *
+ * Errors: an operation whose text cannot be had whole for want of memory returns NULL, never a shortened script; the
+ * session stays usable and the script's position is as before. A null record, profile or command name selects nothing:
+ * the text holds what the operation prints for two equal records.
+ *
+ * Position: the library remembers in which CLI view the script stands, across operations. A session opens at the top
+ * level; most operations return there, those that do not say so below, and the next one goes on from where they stop.
+ *
+ * Switches, set by initiate_diff_c for the session:
+ *   need_all_cfg  non-zero: records are rendered as if every field had changed, where the walk reaches them. An ONT
+ *                 that is equal in both configurations is never rendered, nor is any equal part of the system walk.
+ *   common_type   1: GetDiff_c shows the common records alone (CLI settings, alarms, common settings, PON network, OLT
+ *                 settings, IP source guard). With need_all_cfg, 1 and 2 force the common settings as well, 2 also the
+ *                 default relay profiles.
+ *
+ * Threads: all state is process-global and unlocked. One session at a time, from one thread.
+ */
+#ifndef PONDIFF_H
+#define PONDIFF_H
+
+#include "gcfg/gcfg.h"
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+#if defined(__GNUC__)
+#pragma GCC visibility push(default)
+#endif
+
+/*
+ * Opens a session over the configuration that the device runs and the one wanted; one that is still open is closed
+ * first. Returns 0, or -1 when its name tables could not be built: the session is then empty, and every name in a
+ * script would be too.
+ */
+int initiate_diff_c(GCfg_t* orig, GCfg_t* cfg, int need_all_cfg, int common_type);
+
+/* Closes the session; harmless when none is open. Returns 0. */
+int finalize_diff_c(void);
+
+/*
+ * The whole difference, from the top level back to it, closed by the line "commit"; an empty text when there is none.
+ */
+char* GetDiff_c(GCfg_t* orig, GCfg_t* cfg);
+
+/* The PON part. No "commit"; the script stays in the view of its last command. */
+char* GetPonDiff_c(GPonCfg_t* orig, GPonCfg_t* cfg);
+
+/* The PON part too, whatever the name says: callers rely on it. The system part has no plain symbol. */
+char* GetSystemDiff_c(GPonCfg_t* orig, GPonCfg_t* cfg);
+
+/* The OLT profiles, or the ONT profiles, all kinds. Back to the top level; "commit" when there is any text. */
+char* GetGPonProfilesOltDiff_c(GPonProfilesOlt_t* orig, GPonProfilesOlt_t* cfg);
+char* GetGPonProfilesOntDiff_c(GPonProfilesOnt_t* orig, GPonProfilesOnt_t* cfg);
+
+/*
+ * The line that declares it for each terminal VLAN of the wanted configuration, by name, after the navigation to the
+ * global configuration view. No "commit"; the script stays in that view.
+ */
+char* GetTerminalVlanHeaders_c(void);
+
+/*
+ * One ONT, 0 to 531, shown as port ont_index / 64 and id ont_index % 64. From the global configuration view back to the
+ * top level: the text holds these two navigations even when nothing differs. No "commit".
+ */
+char* GetGponOntDiff_c(GPonOntCfg_t* orig, GPonOntCfg_t* cfg, int ont_index);
+
+/* One GPON port, 0 to 7, in the same way. */
+char* GetGponChannelDiff_c(GPonOltChannelCfg_t* orig, GPonOltChannelCfg_t* cfg, int channel_index);
+
+/*
+ * The profiles of one kind: "address-table", "cross-connect", "dba", "dhcp-ra", "dhcpv6-ra", "management", "ports",
+ * "voice", "pppoe-ia", "shaping", "vlan" or "template". A negative id shows every slot that differs; any other id that
+ * one slot, which print_all forces even when it is equal. An unknown kind or slot selects nothing. From the global
+ * configuration view back to the top level, closed by "commit" even when nothing differs.
+ */
+char* GetProfileDiff_c(GPonCfg_t* orig, GPonCfg_t* cfg, char* profile, int id);
+
+/*
+ * One block of settings, in the same way: "olt", "network", "backup", "cli", "config", "management", "ntp", "snmp",
+ * "ssh", "source_guard", "telnet", "logging", "user" or "route".
+ */
+char* GetBlockDiff_c(GCfg_t* orig, GCfg_t* cfg, char* cmd);
+
+/* The alarm settings, in the same way. */
+char* GetAlarmDiff_c(GCfg_t* orig, GCfg_t* cfg);
+
+#if defined(__GNUC__)
+#pragma GCC visibility pop
+#endif
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif
