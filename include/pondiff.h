@@ -19,18 +19,24 @@
  * NUL-terminated, one command per line, each line closed by a line feed.
  *
  * Errors: an operation whose text cannot be had whole for want of memory returns NULL, never a shortened script; the
- * session stays usable and the script's position is as before. A null record, profile or command name selects nothing:
+ * session stays usable and the script's position is as before. A null record, profile or block name selects nothing:
  * the text holds what the operation prints for two equal records.
  *
  * Position: the library remembers in which CLI view the script stands, across operations. A session opens at the top
- * level; most operations return there, those that do not say so below, and the next one goes on from where they stop.
+ * level; most operations return there, those that do not say so below, and the next one goes on from where they stop:
+ * behind GetPonDiff_c, the way back to the top level is part of the next script, and is then closed by "commit" where
+ * that script is.
  *
- * Switches, set by initiate_diff_c for the session:
- *   need_all_cfg  non-zero: records are rendered as if every field had changed, where the walk reaches them. An ONT
- *                 that is equal in both configurations is never rendered, nor is any equal part of the system walk.
- *   common_type   1: GetDiff_c shows the common records alone (CLI settings, alarms, common settings, PON network, OLT
- *                 settings, IP source guard). With need_all_cfg, 1 and 2 force the common settings as well, 2 also the
- *                 default relay profiles.
+ * Switches, set by initiate_diff_c and kept until it is called again:
+ *   need_all_cfg  non-zero: what an operation reaches is rendered as if every field had changed. Not everything that
+ *                 is equal is reached: GetDiff_c and GetPonDiff_c pass over equal ONTs, GetDiff_c over the management
+ *                 network, the services and the layout of serial numbers where each is equal as a whole. The common
+ *                 records, and one ONT, GPON port, profile slot or block that is asked for, are always reached; equal
+ *                 users and routes never are.
+ *   common_type   1: GetDiff_c shows the common records alone (CLI settings, alarms, layout of serial numbers, PON
+ *                 network, OLT settings, IP source guard). Any other value: the whole configuration.
+ *                 need_all_cfg forces the alarms, the layout of serial numbers, the PON network and the OLT settings
+ *                 only when this is 1 or 2, and the relay profiles of the OLT settings only when it is 2.
  *
  * Threads: all state is process-global and unlocked. One session at a time, from one thread.
  */
@@ -49,38 +55,42 @@ extern "C" {
 
 /*
  * Opens a session over the configuration that the device runs and the one wanted; one that is still open is closed
- * first. Returns 0, or -1 when its name tables could not be built: the session is then empty, and every name in a
- * script would be too.
+ * first. Returns 0, or -1 when one of them is null or memory for the names of their objects cannot be had: no session
+ * is open then.
  */
 int initiate_diff_c(GCfg_t* orig, GCfg_t* cfg, int need_all_cfg, int common_type);
 
-/* Closes the session; harmless when none is open. Returns 0. */
+/* Closes the session and frees its names; harmless when none is open. Returns 0. */
 int finalize_diff_c(void);
 
 /*
- * The whole difference, from the top level back to it, closed by the line "commit"; an empty text when there is none.
+ * The whole difference, but for the static routes (GetBlockDiff_c "route"). Ends at the top level, closed by the line
+ * "commit"; an empty text when there is nothing to say.
  */
 char* GetDiff_c(GCfg_t* orig, GCfg_t* cfg);
 
-/* The PON part. No "commit"; the script stays in the view of its last command. */
+/*
+ * The PON part: network, OLT and ONT profiles, OLT, ONTs. No "commit"; the script stays in the view of its last
+ * command. An empty text when there is nothing to say.
+ */
 char* GetPonDiff_c(GPonCfg_t* orig, GPonCfg_t* cfg);
 
 /* The PON part too, whatever the name says: callers rely on it. The system part has no plain symbol. */
 char* GetSystemDiff_c(GPonCfg_t* orig, GPonCfg_t* cfg);
 
-/* The OLT profiles, or the ONT profiles, all kinds. Back to the top level; "commit" when there is any text. */
+/* The OLT profiles, or the ONT profiles, all kinds. Ends at the top level; "commit" when there is any text. */
 char* GetGPonProfilesOltDiff_c(GPonProfilesOlt_t* orig, GPonProfilesOlt_t* cfg);
 char* GetGPonProfilesOntDiff_c(GPonProfilesOnt_t* orig, GPonProfilesOnt_t* cfg);
 
 /*
- * The line that declares it for each terminal VLAN of the wanted configuration, by name, after the navigation to the
- * global configuration view. No "commit"; the script stays in that view.
+ * Declares each terminal VLAN that the wanted configuration had when the session was opened, by name, in the global
+ * configuration view. No "commit"; the script stays in that view.
  */
 char* GetTerminalVlanHeaders_c(void);
 
 /*
- * One ONT, 0 to 531, shown as port ont_index / 64 and id ont_index % 64. From the global configuration view back to the
- * top level: the text holds these two navigations even when nothing differs. No "commit".
+ * One ONT, 0 to 531, shown as port ont_index / 64 and id ont_index % 64. Goes to the global configuration view first
+ * and to the top level last: the text holds these navigations even when nothing differs. No "commit".
  */
 char* GetGponOntDiff_c(GPonOntCfg_t* orig, GPonOntCfg_t* cfg, int ont_index);
 
@@ -90,14 +100,14 @@ char* GetGponChannelDiff_c(GPonOltChannelCfg_t* orig, GPonOltChannelCfg_t* cfg, 
 /*
  * The profiles of one kind: "address-table", "cross-connect", "dba", "dhcp-ra", "dhcpv6-ra", "management", "ports",
  * "voice", "pppoe-ia", "shaping", "vlan" or "template". A negative id shows every slot that differs; any other id that
- * one slot, which print_all forces even when it is equal. An unknown kind or slot selects nothing. From the global
- * configuration view back to the top level, closed by "commit" even when nothing differs.
+ * one slot, which need_all_cfg renders even when it is equal. An unknown kind or slot selects nothing. Goes to the
+ * global configuration view first and to the top level last, closed by "commit" even when nothing differs.
  */
 char* GetProfileDiff_c(GPonCfg_t* orig, GPonCfg_t* cfg, char* profile, int id);
 
 /*
  * One block of settings, in the same way: "olt", "network", "backup", "cli", "config", "management", "ntp", "snmp",
- * "ssh", "source_guard", "telnet", "logging", "user" or "route".
+ * "ssh", "source_guard", "telnet", "logging", "user" or "route". An unknown name selects nothing.
  */
 char* GetBlockDiff_c(GCfg_t* orig, GCfg_t* cfg, char* cmd);
 

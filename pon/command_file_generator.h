@@ -22,15 +22,16 @@ PON_EXPORTS_BEGIN
 /// @param cfg           the configuration wanted
 /// @param need_all_cfg  becomes `print_all`
 /// @param common_type   becomes `print_common`
-/// @return 0; -1 when the name tables could not be built: the session is then empty
+/// @return 0; -1 when a record is null or the name tables could not be built: the session is then empty
 int initiate_diff(GCfg_t* orig, GCfg_t* cfg, int need_all_cfg, int common_type);
 
 /// Closes the session and releases the name tables; harmless when none is open. The switches keep their values.
 /// @return 0
 int finalize_diff();
 
-/// The commands that turn `orig` into `cfg`, one per line, from the top level of the CLI back to it, closed by
-/// "commit"; an empty text when there are none. With `print_common` at 1 the common records alone.
+/// The commands that turn `orig` into `cfg`, one per line, from where the script stands to the top level of the CLI,
+/// closed by "commit"; an empty text when there are none. With `print_common` at 1 the common records alone. Static
+/// routes are left out.
 char* GetDiff(GCfg_t* orig, GCfg_t* cfg);
 
 /// The walk over the whole tree, and over its PON part; both always return false.

@@ -4,16 +4,32 @@
 
 namespace pondiff {
 
-std::size_t put_natural(char* out, std::uint64_t value)
+namespace {
+
+constexpr std::size_t most_digits = 20;
+
+/// Writes the digits so that they end at `end`; returns where they begin.
+template <class Number>
+char* put_backwards(char* end, Number value)
 {
-    char digits[20];
-    std::size_t count = 0;
     do {
-        digits[count++] = static_cast<char>('0' + value % 10);
+        *--end = static_cast<char>('0' + value % 10);
         value /= 10;
     } while (value != 0);
-    for (std::size_t i = 0; i < count; ++i)
-        out[i] = digits[count - 1 - i];
+    return end;
+}
+
+} // namespace
+
+std::size_t put_natural(char* out, std::uint64_t value)
+{
+    char digits[most_digits];
+    char* const end = digits + most_digits;
+    // Nearly all values are narrow, and narrow division is several times as quick.
+    const char* const begin =
+        value <= UINT32_MAX ? put_backwards(end, static_cast<std::uint32_t>(value)) : put_backwards(end, value);
+    const auto count = static_cast<std::size_t>(end - begin);
+    std::memcpy(out, begin, count);
     return count;
 }
 
@@ -49,20 +65,20 @@ bool Text::grow(std::size_t more)
 
 void Text::append_natural(std::uint64_t value)
 {
-    char digits[20];
+    char digits[most_digits];
     append(digits, put_natural(digits, value));
 }
 
 void Text::append_decimal(std::int64_t value)
 {
-    char digits[20];
+    char digits[most_digits];
     append(digits, put_decimal(digits, value));
 }
 
 void Text::append_aligned(int value)
 {
     constexpr std::size_t width = 4;
-    char digits[20];
+    char digits[most_digits];
     const std::size_t count = put_decimal(digits, value);
     if (count < width)
         append("    ", width - count);

@@ -322,8 +322,15 @@ view2view view2view_row(std::size_t index)
 
 bool stands_in(const char* view, const int* key)
 {
+    // Nearly every command is asked for in the view of the one before.
+    static const view_data* met_last = views;
+    if (met_last->name == current_view.name && std::strcmp(met_last->name, view) == 0)
+        return same_object(*met_last, key);
     const view_data* const target = registered_view(view);
-    return target && prefix_match(standing_view(), view) && same_object(*target, key);
+    if (!target)
+        return false;
+    met_last = target;
+    return prefix_match(standing_view(), view) && same_object(*target, key);
 }
 
 int goto_view(const char* view, const int* key, Text& out)

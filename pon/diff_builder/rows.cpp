@@ -22,8 +22,8 @@ std::int64_t load(const void* record, const RowData& row)
 
 bool changed(const RowData& row, const void* lhs, const void* rhs)
 {
-    if (row.mask != rows::every_bit)
-        return ((load(lhs, row) ^ load(rhs, row)) & static_cast<std::int64_t>(row.mask)) != 0;
+    if (row.mask != 0)
+        return ((load(lhs, row) ^ load(rhs, row)) & row.mask) != 0;
     return std::memcmp(static_cast<const char*>(lhs) + row.offset, static_cast<const char*>(rhs) + row.offset,
                        row.compared) != 0;
 }
@@ -98,8 +98,9 @@ void emit_row(const RowData& row, bool force, const void* lhs, const void* rhs, 
     const void* const field = static_cast<const char*>(rhs) + row.offset;
     switch (row.kind) {
     case RowData::Kind::flag: {
-        const bool on = (static_cast<std::uint64_t>(load(rhs, row)) & row.mask) != 0;
-        emit(where, on ? row.form : row.other);
+        const std::int64_t flag = load(rhs, row);
+        const bool on = (row.mask != 0 ? flag & row.mask : flag) != 0;
+        emit(where, on ? row.form : row.extra.text);
         break;
     }
     case RowData::Kind::value: {
@@ -115,13 +116,13 @@ void emit_row(const RowData& row, bool force, const void* lhs, const void* rhs, 
         break;
     }
     case RowData::Kind::word:
-        emit(where, row.form, row.name(static_cast<int>(load(rhs, row))));
+        emit(where, row.form, row.extra.name(static_cast<int>(load(rhs, row))));
         break;
     case RowData::Kind::enum_word:
-        emit(where, row.form, enum_word(row.other, load(rhs, row)));
+        emit(where, row.form, enum_word(row.extra.text, load(rhs, row)));
         break;
     case RowData::Kind::reference:
-        if (const char* const name = row.name(static_cast<int>(load(rhs, row))))
+        if (const char* const name = row.extra.name(static_cast<int>(load(rhs, row))))
             emit(where, row.form, name);
         break;
     }

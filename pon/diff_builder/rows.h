@@ -109,23 +109,28 @@ struct Field {
 
 struct RowData {
     enum class Kind : std::uint8_t {
-        flag,      ///< `form` when a bit of `mask` is set in the field, `other` when none is
+        flag,      ///< `form` when the field, or a bit of `mask` in it, is set; `extra.text` when none is
         value,     ///< `form` with the number or the bytes as `how` writes them
         text,      ///< `form` with the characters of the field
-        word,      ///< `form` with the word that `name` gives; null is the empty text
-        enum_word, ///< `form` with the registry's word in the vocabulary `other`
-        reference, ///< `form` with the name that `name` gives; null suppresses the command
+        word,      ///< `form` with the word that `extra.name` gives; null is the empty text
+        enum_word, ///< `form` with the registry's word in the vocabulary `extra.text`
+        reference, ///< `form` with the name that `extra.name` gives; null suppresses the command
+    };
+    union Extra {
+        constexpr Extra(const char* words = nullptr) : text(words) {}
+        constexpr Extra(const char* (*lookup)(int)) : name(lookup) {}
+        const char* text;
+        const char* (*name)(int);
     };
     const char* form;
-    const char* other;
-    const char* (*name)(int);
-    std::uint64_t mask;
+    Extra extra;
     std::uint16_t offset;
     std::uint16_t size;
     std::uint16_t compared;
     Kind kind;
     Value::Form how;
     std::uint8_t digits;
+    std::uint8_t mask; ///< 0: the whole field counts
     bool is_signed;
 };
 
@@ -137,15 +142,17 @@ struct Row {
 
 namespace rows {
 
-constexpr std::uint64_t every_bit = ~std::uint64_t{0};
+template <class Record, class Type>
+constexpr Row<Record> row(Field<Record, Type> field, RowData::Kind kind, const char* form, RowData::Extra extra = {},
+                          Value::Form how = Value::Form::text, std::uint8_t digits = 1)
+{
+    return {{form, extra, field.offset, sizeof(Type), field.compared, kind, how, digits, 0, std::is_signed_v<Type>}};
+}
 
 template <class Record, class Type>
-constexpr Row<Record> row(Field<Record, Type> field, RowData::Kind kind, const char* form, const char* other = nullptr,
-                          const char* (*name)(int) = nullptr, Value::Form how = Value::Form::text,
-                          std::uint8_t digits = 1)
+constexpr Row<Record> value(Field<Record, Type> field, const char* form, Value::Form how, std::uint8_t digits = 1)
 {
-    return {{form, other, name, every_bit, field.offset, sizeof(Type), field.compared, kind, how, digits,
-             std::is_signed_v<Type>}};
+    return row(field, RowData::Kind::value, form, {}, how, digits);
 }
 
 template <class Type>
@@ -166,7 +173,7 @@ constexpr Row<R> on_off(Field<R, T> field, const char* on, const char* off)
 
 /// The same for the bits of `mask` alone: the others neither decide nor count as a change.
 template <class R, class T>
-constexpr Row<R> bit(Field<R, T> field, std::uint64_t mask, const char* on, const char* off)
+constexpr Row<R> bit(Field<R, T> field, std::uint8_t mask, const char* on, const char* off)
 {
     static_assert(rows::is_number<T>);
     Row<R> row = rows::row(field, RowData::Kind::flag, on, off);
@@ -187,7 +194,7 @@ template <class R, class T>
 constexpr Row<R> number(Field<R, T> field, const char* form)
 {
     static_assert(rows::is_number<T>);
-    return rows::row(field, RowData::Kind::value, form, nullptr, nullptr, Value::Form::decimal);
+    return rows::value(field, form, Value::Form::decimal);
 }
 
 /// An unsigned field of 32 bits shown as if it were signed: values of 2^31 and above are negative.
@@ -204,14 +211,14 @@ template <class R, class T>
 constexpr Row<R> number_or_unused(Field<R, T> field, const char* form)
 {
     static_assert(rows::is_number<T>);
-    return rows::row(field, RowData::Kind::value, form, nullptr, nullptr, Value::Form::decimal_or_unused);
+    return rows::value(field, form, Value::Form::decimal_or_unused);
 }
 
 template <class R, class T>
 constexpr Row<R> ber_interval(Field<R, T> field, const char* form)
 {
     static_assert(std::is_same_v<T, std::uint32_t>);
-    return rows::row(field, RowData::Kind::value, form, nullptr, nullptr, Value::Form::ber_interval);
+    return rows::value(field, form, Value::Form::ber_interval);
 }
 
 /// 0x and at least so many upper-case digits.
@@ -219,35 +226,35 @@ template <class R, class T>
 constexpr Row<R> hexadecimal(Field<R, T> field, std::uint8_t digits, const char* form)
 {
     static_assert(rows::is_number<T> && std::is_unsigned_v<T>);
-    return rows::row(field, RowData::Kind::value, form, nullptr, nullptr, Value::Form::hexadecimal, digits);
+    return rows::value(field, form, Value::Form::hexadecimal, digits);
 }
 
 template <class R, class T>
 constexpr Row<R> ipv4(Field<R, T> field, const char* form)
 {
     static_assert(rows::is_bytes<T, 4>);
-    return rows::row(field, RowData::Kind::value, form, nullptr, nullptr, Value::Form::ipv4);
+    return rows::value(field, form, Value::Form::ipv4);
 }
 
 template <class R, class T>
 constexpr Row<R> ipv6(Field<R, T> field, const char* form)
 {
     static_assert(rows::is_bytes<T, 16>);
-    return rows::row(field, RowData::Kind::value, form, nullptr, nullptr, Value::Form::ipv6);
+    return rows::value(field, form, Value::Form::ipv6);
 }
 
 template <class R, class T>
 constexpr Row<R> serial(Field<R, T> field, const char* form)
 {
     static_assert(rows::is_bytes<T, 8>);
-    return rows::row(field, RowData::Kind::value, form, nullptr, nullptr, Value::Form::serial);
+    return rows::value(field, form, Value::Form::serial);
 }
 
 template <class R, class T>
 constexpr Row<R> engine_id(Field<R, T> field, const char* form)
 {
     static_assert(rows::is_bytes<T, 13>);
-    return rows::row(field, RowData::Kind::value, form, nullptr, nullptr, Value::Form::engine_id);
+    return rows::value(field, form, Value::Form::engine_id);
 }
 
 /// The characters of the field, as stored.
@@ -290,7 +297,7 @@ template <class R, class T>
 constexpr Row<R> word(Field<R, T> field, const char* (*vocabulary)(int), const char* form)
 {
     static_assert(rows::is_number<T>);
-    return rows::row(field, RowData::Kind::word, form, nullptr, vocabulary);
+    return rows::row(field, RowData::Kind::word, form, vocabulary);
 }
 
 /// A profile or template that the field refers to, by its name; nothing is emitted while the slot holds none.
@@ -298,7 +305,7 @@ template <class R, class T>
 constexpr Row<R> reference(Field<R, T> field, const char* (*lookup)(int), const char* form)
 {
     static_assert(std::is_same_v<T, std::int16_t>);
-    return rows::row(field, RowData::Kind::reference, form, nullptr, lookup);
+    return rows::row(field, RowData::Kind::reference, form, lookup);
 }
 
 /// The same row for element `index` of the array whose first element it names.

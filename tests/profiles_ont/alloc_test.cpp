@@ -35,6 +35,17 @@ TEST_F(Sla, EveryFieldInOrder)
                              "bandwidth besteffort \"1244160\"\n");
 }
 
+TEST_F(Sla, BandwidthsHaveNoSign)
+{
+    diff.after.fixed_bandwidth = 4294967295U;
+    diff.after.guaranteed_bandwidth = 4294967294U;
+    diff.after.besteffort_bandwidth = 2147483648U;
+    EXPECT_EQ(diff.script(), "configure terminal\nprofile dba \"gold\"\n"
+                             "bandwidth fixed \"4294967295\"\n"
+                             "bandwidth guaranteed \"4294967294\"\n"
+                             "bandwidth besteffort \"2147483648\"\n");
+}
+
 TEST_F(Sla, EveryServiceClass)
 {
     const char* const words[] = {"omci", "voip", "cbr", "periodic-allocation", "type5", ""};

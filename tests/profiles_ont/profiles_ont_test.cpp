@@ -177,6 +177,25 @@ TYPED_TEST(OntProfileHead, DumpBeginsWithNameAndDescription)
     }
 }
 
+TYPED_TEST(OntProfileHead, DumpOfAllProfilesReachesAnEqualOne)
+{
+    for (const int common : {0, 1, 2}) {
+        this->exists((this->session.orig->pon.profiles_ont.*TypeParam::slots)[this->slot], "gold");
+        this->exists((this->session.cfg->pon.profiles_ont.*TypeParam::slots)[this->slot], "gold");
+        this->session.open();
+        const std::unique_ptr<Diff<GPonProfilesOnt>> all{new Diff<GPonProfilesOnt>(getdiff_GPonProfilesOnt)};
+        all->before = this->session.orig->pon.profiles_ont;
+        all->after = this->session.cfg->pon.profiles_ont;
+        all->all = 1;
+        all->common = common;
+        const Elements elements = all->elements();
+        ASSERT_GE(elements.size(), 2U);
+        EXPECT_EQ(elements[0], this->entering("gold"));
+        EXPECT_EQ(elements[1], "name \"gold\"");
+        EXPECT_EQ(all->key[0], 31);
+    }
+}
+
 TYPED_TEST(OntProfileHead, DumpNamesANewProfileAndEntersItOnceMore)
 {
     this->exists(this->diff.after, "gold");

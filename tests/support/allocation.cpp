@@ -6,9 +6,12 @@ namespace {
 
 bool limited;
 int left;
+void (*observe)();
 
 bool granted()
 {
+    if (observe)
+        observe();
     return !limited || left-- > 0;
 }
 
@@ -23,6 +26,16 @@ LimitedAllocations::LimitedAllocations(int granted)
 LimitedAllocations::~LimitedAllocations()
 {
     limited = false;
+}
+
+ObservedAllocations::ObservedAllocations(void (*observer)())
+{
+    observe = observer;
+}
+
+ObservedAllocations::~ObservedAllocations()
+{
+    observe = nullptr;
 }
 
 extern "C" {

@@ -12,7 +12,9 @@ constexpr int end_mark = -1;
 void sort_vids(GPonOntSelectiveTunnel& tunnel)
 {
     constexpr int last = GCFG_TUNNEL_VIDS - 1;
-    for (int pass = 0; pass < last && tunnel.uvid[pass] != end_mark; ++pass) {
+    bool swapped = true;
+    for (int pass = 0; swapped && pass < last && tunnel.uvid[pass] != end_mark; ++pass) {
+        swapped = false;
         for (int i = 0; i < last - pass; ++i) {
             const s16 vid = tunnel.uvid[i];
             const s16 next = tunnel.uvid[i + 1];
@@ -20,6 +22,7 @@ void sort_vids(GPonOntSelectiveTunnel& tunnel)
                 continue;
             tunnel.uvid[i] = next;
             tunnel.uvid[i + 1] = vid;
+            swapped = true;
         }
     }
 }

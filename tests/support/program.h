@@ -1,0 +1,181 @@
+#ifndef TESTS_SUPPORT_PROGRAM_H
+#define TESTS_SUPPORT_PROGRAM_H
+
+/// @file
+/// What the tests of the program are written with: a folder of its own for each test, in which the built program runs.
+
+#include <algorithm>
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <fcntl.h>
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <iterator>
+#include <string>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <vector>
+
+using Arguments = std::vector<std::string>;
+
+/// What the program left behind.
+struct Outcome {
+    int status; ///< the exit status, or the signal that ended the program, negated
+    std::string out;
+    std::string err;
+};
+
+/// The surroundings of one run.
+struct Surroundings {
+    std::string input{};                    ///< comes through a pipe
+    std::string output_file{};              ///< where standard output goes; nowhere else than to `Outcome` when empty
+    bool reader_gone = false;               ///< standard output is a pipe that nobody reads
+    std::vector<int> closed{};              ///< standard descriptors that are closed
+    std::vector<std::string> environment{}; ///< "NAME=value" each
+    bool unprivileged = false;              ///< the super-user runs it as somebody else
+    mode_t mask = 022;                      ///< permissions that new files do not get
+    rlim_t largest_file = RLIM_INFINITY;
+};
+
+/// The other library stands in front of the real ones; it reads `variable`, "NAME=value".
+inline Surroundings with_other_library(const std::string& variable)
+{
+    const char* const options = std::getenv("ASAN_OPTIONS");
+    Surroundings surroundings;
+    surroundings.environment = {variable, "LD_PRELOAD=" PONDIFF_OTHER_LIBRARY,
+                                "ASAN_OPTIONS=" + (options ? options + std::string(":") : "") +
+                                    "verify_asan_link_order=0"};
+    return surroundings;
+}
+
+class ProgramTest : public ::testing::Test {
+  public:
+    ProgramTest()
+    {
+        std::string name = (std::filesystem::temp_directory_path() / "program-test-XXXXXX").string();
+        if (mkdtemp(name.data()) == nullptr)
+            std::abort();
+        folder_ = name;
+    }
+    ~ProgramTest() override { std::filesystem::remove_all(folder_); }
+
+    std::filesystem::path path(const std::string& name) const { return folder_ / name; }
+
+    void write(const std::string& name, const std::string& content) const
+    {
+        std::ofstream(path(name), std::ios::binary) << content;
+    }
+
+    std::string read(const std::string& name) const
+    {
+        std::ifstream file(path(name), std::ios::binary);
+        return {std::istreambuf_iterator<char>(file), {}};
+    }
+
+    mode_t mode(const std::string& name) const
+    {
+        struct stat status = {};
+        EXPECT_EQ(stat(path(name).c_str(), &status), 0);
+        return status.st_mode & 07777;
+    }
+
+    /// The names of what the folder holds, hidden files included, in alphabetical order.
+    std::vector<std::string> names() const
+    {
+        std::vector<std::string> found;
+        for (const auto& entry : std::filesystem::directory_iterator(folder_))
+            found.push_back(entry.path().filename().string());
+        std::sort(found.begin(), found.end());
+        return found;
+    }
+
+    /// Runs the program in the folder of the test.
+    Outcome run(const Arguments& arguments, const Surroundings& surroundings = {}) const
+    {
+        std::FILE* const out = std::tmpfile();
+        std::FILE* const err = std::tmpfile();
+        int input[2];
+        if (out == nullptr || err == nullptr || pipe2(input, O_CLOEXEC) != 0)
+            std::abort();
+        const pid_t child = fork();
+        if (child == 0) {
+            dup2(input[0], STDIN_FILENO);
+            become_program(arguments, surroundings, fileno(out), fileno(err));
+        }
+        close(input[0]);
+        feed(input[1], surroundings.input);
+        int status = 0;
+        waitpid(child, &status, 0);
+        return {WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status), content_of(out), content_of(err)};
+    }
+
+  private:
+    static constexpr uid_t nobody = 65534;
+
+    [[noreturn]] void become_program(const Arguments& arguments, const Surroundings& surroundings, int out,
+                                     int err) const
+    {
+        if (surroundings.reader_gone) {
+            int ends[2];
+            if (pipe(ends) != 0)
+                std::abort();
+            close(ends[0]);
+            out = ends[1];
+        } else if (!surroundings.output_file.empty()) {
+            out = open(surroundings.output_file.c_str(), O_WRONLY);
+        }
+        const rlimit limit{surroundings.largest_file, RLIM_INFINITY};
+        if (out < 0 || dup2(out, STDOUT_FILENO) < 0 || dup2(err, STDERR_FILENO) < 0 || chdir(folder_.c_str()) != 0 ||
+            setrlimit(RLIMIT_FSIZE, &limit) != 0)
+            std::abort();
+        if (surroundings.unprivileged && geteuid() == 0 && (setgid(nobody) != 0 || setuid(nobody) != 0))
+            std::abort();
+        for (const int descriptor : surroundings.closed)
+            close(descriptor);
+        umask(surroundings.mask);
+        for (const std::string& variable : surroundings.environment) {
+            const std::size_t equals = variable.find('=');
+            setenv(variable.substr(0, equals).c_str(), variable.substr(equals + 1).c_str(), 1);
+        }
+        std::string program = "pondiff";
+        std::vector<char*> argv{program.data()};
+        Arguments copies = arguments;
+        for (std::string& argument : copies)
+            argv.push_back(argument.data());
+        argv.push_back(nullptr);
+        execv(PONDIFF_PROGRAM, argv.data());
+        std::abort();
+    }
+
+    /// The program may leave without reading everything.
+    static void feed(int descriptor, const std::string& input)
+    {
+        void (*const before)(int) = std::signal(SIGPIPE, SIG_IGN);
+        for (std::size_t done = 0; done < input.size();) {
+            const ssize_t count = ::write(descriptor, input.data() + done, input.size() - done);
+            if (count <= 0)
+                break;
+            done += static_cast<std::size_t>(count);
+        }
+        close(descriptor);
+        std::signal(SIGPIPE, before);
+    }
+
+    static std::string content_of(std::FILE* file)
+    {
+        std::string content;
+        std::rewind(file);
+        for (int c = std::getc(file); c != EOF; c = std::getc(file))
+            content += static_cast<char>(c);
+        std::fclose(file);
+        return content;
+    }
+
+    std::filesystem::path folder_;
+};
+
+#endif

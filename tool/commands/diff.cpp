@@ -1,0 +1,142 @@
+#include "tool/commands/diff.h"
+
+#include "pon/command_file_generator.h"
+#include "tool/describe/description.h"
+#include "tool/exit_status.h"
+#include "tool/files.h"
+#include "tool/messages.h"
+#include "tool/script.h"
+
+#include <CLI/CLI.hpp>
+#include <cstdlib>
+#include <fmt/format.h>
+#include <memory>
+#include <new>
+#include <string>
+
+namespace pondiff::tool {
+
+namespace {
+
+constexpr char details[] =
+    R"(Prints the script that takes a device from the configuration ORIG, which it
+runs, to the configuration CFG, which is wanted: CLI commands, one per line,
+from the top level of the CLI back to it, closed by "commit".
+
+A script that would change nothing is not printed. That is one of nothing but
+moves from view to view: "configure terminal", "exit", the line that enters the
+view of a port, an ONT or a profile that ORIG holds, and "commit". Entering the
+view of an ONT or a profile that ORIG does not hold creates it, so that counts
+as a change.
+
+Some fields have no command, or none in the scope asked for. When the script
+changes nothing although the configurations differ, one line on standard error
+tells how many fields do.
+
+With -o, FILE is replaced as a whole or, when anything fails, left as it was. It
+keeps its mode; a symbolic link stays and the file that it points to is
+replaced. When nothing is to be printed, FILE is left alone, be it there or not.
+
+Exit status:
+  0  there is nothing to do
+  1  a script was written
+  2  trouble: an unreadable file, a mistake in a document, no room to write
+
+Examples:
+  pondiff diff running.bin wanted.json
+  pondiff diff --common 1 running.bin wanted.bin
+  pondiff diff -o change.cli running.bin - < wanted.json
+  pondiff diff --all --common 2 running.bin wanted.bin > full.cli)";
+
+struct Arguments {
+    std::string orig;
+    std::string cfg;
+    std::string output = standard_stream;
+    int common = 0;
+    bool all = false;
+    bool verbatim = false;
+};
+
+class Session {
+  public:
+    Session(GCfg& orig, GCfg& cfg, const Arguments& arguments)
+    {
+        if (initiate_diff(&orig, &cfg, arguments.all, arguments.common) != 0)
+            throw std::bad_alloc();
+    }
+    ~Session() { finalize_diff(); }
+    Session(const Session&) = delete;
+    Session& operator=(const Session&) = delete;
+};
+
+/// Runs the library's operation on the scope that the arguments select: so far always the whole configuration. What
+/// surrounds this function, from the files to the exit status, holds for every scope.
+std::string script_of(GCfg& orig, GCfg& cfg, const Arguments& arguments)
+{
+    const Session session{orig, cfg, arguments};
+    const std::unique_ptr<char, decltype(&std::free)> text{GetDiff(&orig, &cfg), &std::free};
+    if (!text)
+        throw std::bad_alloc();
+    return text.get();
+}
+
+void tell_of_silent_fields(const GCfg& orig, const GCfg& cfg)
+{
+    const std::size_t count = count_differing_fields(orig, cfg);
+    if (count == 1)
+        tell("1 field differs without a command in this scope");
+    else if (count != 0)
+        tell(fmt::format("{} fields differ without a command in this scope", count));
+}
+
+ExitStatus run(const Arguments& arguments)
+{
+    const std::unique_ptr<GCfg> orig = read_configuration(arguments.orig);
+    const std::unique_ptr<GCfg> cfg = read_configuration(arguments.cfg);
+    const std::string script = script_of(*orig, *cfg, arguments);
+    const bool nothing_to_do = changes_nothing(script, *orig);
+    if (!nothing_to_do || (arguments.verbatim && !script.empty()))
+        write_file(arguments.output, script);
+    if (!nothing_to_do)
+        return script_written;
+    tell_of_silent_fields(*orig, *cfg);
+    return success;
+}
+
+} // namespace
+
+void add_diff(CLI::App& program, int& status)
+{
+    CLI::App& command = *program.add_subcommand("diff", "Print the commands that turn one configuration into another");
+    const auto arguments = std::make_shared<Arguments>();
+    command.add_option("ORIG", arguments->orig, "Configuration that the device runs; - is standard input")
+        ->required()
+        ->option_text(" ");
+    command.add_option("CFG", arguments->cfg, "Configuration wanted; - is standard input, but not for both")
+        ->required()
+        ->option_text(" ");
+    command.add_flag("--all", arguments->all,
+                     "Render fields that are equal too, as if they had changed.\n"
+                     "ONTs and a system part that are equal as a whole stay out");
+    command
+        .add_option("--common", arguments->common,
+                    "1: compare the common settings alone: CLI, alarms, layout\n"
+                    "of serial numbers, PON network, OLT, IP source guard. With\n"
+                    "--all, 1 and 2 render the common settings too, 2 also the\n"
+                    "default relay profiles. Other numbers mean what 0, the\n"
+                    "default, does: the whole tree")
+        ->option_text("N");
+    command.add_flag("--verbatim", arguments->verbatim,
+                     "Print the script even when it would change nothing; the\n"
+                     "exit status stays 0");
+    command.add_option("-o,--output", arguments->output, "Write the script to FILE instead of standard output")
+        ->option_text("FILE");
+    command.footer(details);
+    command.callback([arguments, &status] {
+        if (arguments->orig == standard_stream && arguments->cfg == standard_stream)
+            throw CLI::ParseError("only one of ORIG and CFG can be standard input", CLI::ExitCodes::ValidationError);
+        status = run(*arguments);
+    });
+}
+
+} // namespace pondiff::tool

@@ -1,0 +1,60 @@
+#include "tool/describe/description.h"
+
+#include "tool/describe/records.h"
+
+namespace pondiff::tool {
+
+namespace {
+
+template <class T>
+std::int64_t read(const unsigned char* at)
+{
+    T value;
+    std::memcpy(&value, at, sizeof value);
+    return value;
+}
+
+} // namespace
+
+std::int64_t get_number(const Field& field, const unsigned char* at)
+{
+    switch (field.width) {
+    case 1:
+        return field.is_signed ? read<std::int8_t>(at) : read<std::uint8_t>(at);
+    case 2:
+        return field.is_signed ? read<std::int16_t>(at) : read<std::uint16_t>(at);
+    default:
+        return field.is_signed ? read<std::int32_t>(at) : read<std::uint32_t>(at);
+    }
+}
+
+void set_number(const Field& field, unsigned char* at, std::int64_t number)
+{
+    static_assert(__BYTE_ORDER__ == __ORDER_LITTLE_ENDIAN__, "the low bytes come first, as in the records");
+    std::memcpy(at, &number, field.width);
+}
+
+std::string Path::text() const
+{
+    std::string result;
+    for (const Step& step : steps_) {
+        if (!result.empty()) {
+            result += '.';
+        }
+        result += step.field->name;
+        if (step.field->array) {
+            result += '.';
+            result += std::to_string(step.index);
+        }
+    }
+    return result;
+}
+
+std::size_t count_differing_fields(const GCfg& a, const GCfg& b)
+{
+    std::size_t count = 0;
+    for_each_difference(gcfg_record, &a, &b, [&count](const Leaf&) { count++; });
+    return count;
+}
+
+} // namespace pondiff::tool

@@ -1,0 +1,270 @@
+#ifndef TOOL_DESCRIBE_TABLE_H
+#define TOOL_DESCRIBE_TABLE_H
+
+/// @file
+/// What the tables of this folder are written with: a line for each field of the struct, in its order. The verb says
+/// how a person writes the field; name, place, width, sign and length are the struct's. A line that is missing, out of
+/// its order or in the wrong table does not compile, nor does a verb that does not suit the field.
+///
+/// To add a field: add its line where the struct has it.
+/// To add a record: write its table and DESCRIBE it above the record that holds it, or, when that one is in another
+/// file, declare it in records.h.
+
+#include "tool/describe/description.h"
+#include "tool/describe/records.h"
+
+#include <cstddef>
+#include <string_view>
+#include <type_traits>
+
+/// The field `member` of the struct `record`.
+#define AT(record, member)                                                                                             \
+    (::pondiff::tool::Member<record, decltype(record::member)>{#record, #member, offsetof(record, member)})
+
+/// Makes `name` the description of the struct `record` by the lines of `table`.
+#define DESCRIBE(record, name, table)                                                                                  \
+    static_assert(::pondiff::tool::belong(table, #record), #record ": a line is of another struct");                   \
+    static_assert(::pondiff::tool::tile<record>(table), #record ": not a line for each field in its order");           \
+    constexpr ::pondiff::tool::RecordOf<record> name(#record, table)
+
+namespace pondiff::tool {
+
+template <class Struct, class Type>
+struct Member {
+    std::string_view owner;
+    std::string_view name;
+    std::size_t offset;
+};
+
+/// No array is longer.
+constexpr std::size_t MAX_ELEMENTS = 4096;
+/// No record has more.
+constexpr std::size_t MAX_FIELDS = 64;
+
+template <class Type>
+inline constexpr bool is_integer =
+    std::is_integral_v<Type> && !std::is_same_v<Type, char> && !std::is_same_v<Type, bool> && sizeof(Type) <= 4;
+
+template <class Struct, class Type>
+constexpr Field single(Member<Struct, Type> member, Form form)
+{
+    Field field{};
+    field.name = member.name;
+    field.owner = member.owner;
+    field.offset = static_cast<std::uint32_t>(member.offset);
+    field.size = sizeof(Type);
+    field.width = sizeof(Type);
+    field.count = 1;
+    field.is_signed = std::is_signed_v<Type>;
+    field.form = form;
+    return field;
+}
+
+template <class Struct, class Type, std::size_t N>
+constexpr Field array(Member<Struct, Type[N]> member, Form form, const char* plural)
+{
+    static_assert(N <= MAX_ELEMENTS);
+    Field field = single(Member<Struct, Type>{member.owner, member.name, member.offset}, form);
+    field.size = sizeof(Type[N]);
+    field.count = N;
+    field.array = true;
+    field.plural = plural;
+    return field;
+}
+
+// ------------------------------------------------------------------------------------------------------- the verbs
+//
+// Where a field is an array, the last argument is what its elements are called.
+
+template <class Struct, class Type>
+constexpr Field number(Member<Struct, Type> member)
+{
+    static_assert(is_integer<Type>, "an integer");
+    return single(member, Form::number);
+}
+
+template <class Struct, class Type, std::size_t N>
+constexpr Field number(Member<Struct, Type[N]> member, const char* plural)
+{
+    static_assert(is_integer<Type>, "integers");
+    return array(member, Form::number, plural);
+}
+
+/// Numbers that -1 ends; a full array has no end mark.
+template <class Struct, class Type, std::size_t N>
+constexpr Field ended_list(Member<Struct, Type[N]> member, const char* plural)
+{
+    static_assert(is_integer<Type> && std::is_signed_v<Type>, "integers, -1 among them");
+    Field field = array(member, Form::number, plural);
+    field.layout = Layout::ended_list;
+    return field;
+}
+
+template <class Struct, class Type>
+constexpr Field boolean(Member<Struct, Type> member)
+{
+    static_assert(is_integer<Type> && std::is_unsigned_v<Type>, "an unsigned integer");
+    return single(member, Form::boolean);
+}
+
+template <class Struct, class Type, std::size_t N>
+constexpr Field boolean(Member<Struct, Type[N]> member, const char* plural)
+{
+    static_assert(is_integer<Type> && std::is_unsigned_v<Type>, "unsigned integers");
+    return array(member, Form::boolean, plural);
+}
+
+template <class Struct, class Type>
+constexpr Field hexadecimal(Member<Struct, Type> member)
+{
+    static_assert(is_integer<Type> && std::is_unsigned_v<Type>, "an unsigned integer");
+    return single(member, Form::hexadecimal);
+}
+
+/// `type` is the registry's name of the enumeration, "GBool_enum".
+template <class Struct, class Type>
+constexpr Field enumeration(Member<Struct, Type> member, const char* type)
+{
+    static_assert(is_integer<Type> && std::is_unsigned_v<Type>, "an unsigned integer");
+    Field field = single(member, Form::enumeration);
+    field.enumeration = type;
+    return field;
+}
+
+template <class Struct, class Type>
+constexpr Field reference(Member<Struct, Type> member, Reference to)
+{
+    static_assert(is_integer<Type>, "an integer");
+    Field field = single(member, Form::reference);
+    field.reference = to;
+    return field;
+}
+
+template <class Struct, class Type, std::size_t N>
+constexpr Field reference(Member<Struct, Type[N]> member, Reference to, const char* plural)
+{
+    static_assert(is_integer<Type>, "integers");
+    Field field = array(member, Form::reference, plural);
+    field.reference = to;
+    return field;
+}
+
+template <class Struct, std::size_t N>
+constexpr Field text(Member<Struct, char[N]> member)
+{
+    return single(member, Form::text);
+}
+
+template <class Struct, std::size_t N>
+constexpr Field secret(Member<Struct, char[N]> member)
+{
+    return single(member, Form::secret);
+}
+
+template <class Struct>
+constexpr Field ipv4(Member<Struct, GIPAddr_t> member)
+{
+    return single(member, Form::ipv4);
+}
+
+template <class Struct>
+constexpr Field ipv6(Member<Struct, GIPV6Addr_t> member)
+{
+    return single(member, Form::ipv6);
+}
+
+template <class Struct>
+constexpr Field mac(Member<Struct, GMACAddr_t> member)
+{
+    return single(member, Form::mac);
+}
+
+template <class Struct>
+constexpr Field serial(Member<Struct, GOntSerial_t> member)
+{
+    return single(member, Form::serial);
+}
+
+template <class Struct>
+constexpr Field engine_id(Member<Struct, GSNMPEngineID_t> member)
+{
+    return single(member, Form::engine_id);
+}
+
+template <class Struct, class Type>
+constexpr Field record(Member<Struct, Type> member, const RecordOf<Type>& described)
+{
+    Field field = single(member, Form::record);
+    field.record = &described;
+    return field;
+}
+
+template <class Struct, class Type, std::size_t N>
+constexpr Field record(Member<Struct, Type[N]> member, const RecordOf<Type>& described, const char* plural)
+{
+    Field field = array(member, Form::record, plural);
+    field.record = &described;
+    return field;
+}
+
+/// Records that hold one flag each, so many that they are written as a list of those that are set.
+template <class Struct, class Type, std::size_t N>
+constexpr Field flag_set(Member<Struct, Type[N]> member, const RecordOf<Type>& described, const char* plural)
+{
+    static_assert(sizeof(Type) == sizeof(GBool_t), "one flag");
+    Field field = record(member, described, plural);
+    field.layout = Layout::flag_set;
+    return field;
+}
+
+// ------------------------------------------------------------------------------------------------------ the checks
+
+template <std::size_t N>
+constexpr bool belong(const Field (&table)[N], std::string_view owner)
+{
+    for (const Field& field : table) {
+        if (field.owner != owner) {
+            return false;
+        }
+    }
+    return true;
+}
+
+template <class Struct, std::size_t N>
+constexpr bool tile(const Field (&table)[N])
+{
+    std::size_t offset = 0;
+    for (const Field& field : table) {
+        if (field.offset != offset || field.size != field.width * field.count) {
+            return false;
+        }
+        offset += field.size;
+    }
+    return offset == sizeof(Struct);
+}
+
+/// True when each field is a single short value and the names leave room for the values on a line.
+template <std::size_t N>
+constexpr bool is_brief(const Field (&table)[N])
+{
+    std::size_t length = 0;
+    for (const Field& field : table) {
+        if (field.array || !(is_number(field.form) || field.form == Form::ipv4 || field.form == Form::mac)) {
+            return false;
+        }
+        length += field.name.size();
+    }
+    return length <= 48;
+}
+
+template <class Struct>
+template <std::size_t N>
+constexpr RecordOf<Struct>::RecordOf(const char* struct_name, const Field (&table)[N])
+    : Record{struct_name, table, N, sizeof(Struct), is_brief(table)}
+{
+    static_assert(N <= MAX_FIELDS);
+}
+
+} // namespace pondiff::tool
+
+#endif

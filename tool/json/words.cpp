@@ -1,0 +1,58 @@
+#include "tool/json/words.h"
+
+#include "platform.h"
+#include "tool/json/forms.h"
+
+#include <algorithm>
+#include <map>
+#include <utility>
+
+namespace pondiff::tool {
+
+namespace {
+
+/// The registry does not tell which values have words. Those of every enumeration lie below this one.
+constexpr int VALUES_ASKED = 1024;
+
+} // namespace
+
+Words::Words(const char* type, std::int64_t largest, Lookup lookup)
+{
+    const char* const unknown = lookup("", 0);
+    for (int value = 0; value < VALUES_ASKED && value <= largest; value++) {
+        const char* const word = lookup(type, value);
+        if (word == nullptr || *word == '\0' || (unknown != nullptr && std::string_view(word) == unknown)) {
+            continue;
+        }
+        if (is_utf8(word) && find(word) == nullptr) {
+            words_.push_back({value, word});
+        }
+    }
+}
+
+std::string_view Words::word_of(std::int64_t value) const
+{
+    const auto found = std::lower_bound(words_.begin(), words_.end(), value,
+                                        [](const Word& word, std::int64_t wanted) { return word.value < wanted; });
+    return found != words_.end() && found->value == value ? found->word : std::string_view();
+}
+
+const Words::Word* Words::find(std::string_view word) const
+{
+    const auto found =
+        std::find_if(words_.begin(), words_.end(), [word](const Word& known) { return known.word == word; });
+    return found != words_.end() ? &*found : nullptr;
+}
+
+const Words& words_of(const Field& field)
+{
+    static std::map<std::pair<std::string_view, std::uint32_t>, Words> asked;
+    const auto key = std::make_pair(std::string_view(field.enumeration), field.width);
+    const auto known = asked.find(key);
+    if (known != asked.end()) {
+        return known->second;
+    }
+    return asked.try_emplace(key, field.enumeration, largest(field), gpon_enum_find_name_by_type).first->second;
+}
+
+} // namespace pondiff::tool

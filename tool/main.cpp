@@ -1,0 +1,133 @@
+#include "gcfg/gcfg.h"
+#include "tool/commands/diff.h"
+#include "tool/commands/pack.h"
+#include "tool/commands/show.h"
+#include "tool/exit_status.h"
+#include "tool/files.h"
+#include "tool/messages.h"
+
+#include <CLI/CLI.hpp>
+#include <csignal>
+#include <exception>
+#include <fmt/format.h>
+#include <memory>
+#include <new>
+#include <sstream>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace {
+
+using namespace pondiff::tool;
+
+std::string details()
+{
+    return fmt::format(R"(A configuration is everything that the device is told: its system settings and
+its PON. Every command reads it in either of two forms, told apart by content:
+
+  Record         The packed record that the device software keeps, exactly
+                 {} bytes.
+  JSON document  An object whose keys are the names of the record's fields.
+                 Arrays of records are objects keyed by index, and what is
+                 absent is zero, so that this is a whole configuration:
+                 {{"pon": {{"ont": {{"70": {{"exist": true}}}}}}}}
+
+Where a file is named, - stands for standard input or output; a file of that
+name is ./-
+
+Exit status:
+  0  all went well; of "pondiff diff": there is nothing to do
+  1  of "pondiff diff": a script was written
+  2  trouble, told on standard error
+
+Examples:
+  pondiff diff running.bin wanted.json
+  pondiff show running.bin > running.json
+  pondiff pack running.json -o running.bin
+
+"pondiff COMMAND --help" tells more of each command.)",
+                       sizeof(GCfg));
+}
+
+/// What cannot be written, because the reader has gone or the file would grow too large, is an error like any other.
+void ignore_signals_of_failed_writes()
+{
+    std::signal(SIGPIPE, SIG_IGN);
+    std::signal(SIGXFSZ, SIG_IGN);
+}
+
+/// Sets the usage line apart from the description, as in a manual page.
+class ManualFormatter : public CLI::Formatter {
+  public:
+    std::string make_usage(const CLI::App* app, std::string name) const override
+    {
+        return "\n" + CLI::Formatter::make_usage(app, std::move(name));
+    }
+};
+
+std::string complaint(const CLI::App& program, const CLI::ParseError& request)
+{
+    if (!program.get_subcommands().empty())
+        return request.what();
+    const std::vector<std::string> unknown = program.remaining();
+    return unknown.empty() ? "a command is required" : unknown.front() + ": no such command or option";
+}
+
+/// Answers a request for help or for the version, or tells what is wrong with the command line.
+int answer(const CLI::App& program, const CLI::ParseError& request)
+{
+    std::ostringstream text;
+    if (program.exit(request, text, text) == 0) {
+        write_file(standard_stream, text.str());
+        return success;
+    }
+    std::string command = "pondiff";
+    for (const CLI::App* const selected : program.get_subcommands())
+        command += " " + selected->get_name();
+    tell(complaint(program, request) + "\nTry '" + command + " --help'.");
+    return trouble;
+}
+
+int run(int argc, char** argv)
+{
+    int status = success;
+    CLI::App program{"Compares complete configurations of a GPON optical line terminal (OLT)\n"
+                     "and writes the CLI commands that turn the one into the other.",
+                     "pondiff"};
+    const auto formatter = std::make_shared<ManualFormatter>();
+    formatter->column_width(21);
+    formatter->label("SUBCOMMAND", "COMMAND");
+    formatter->label("Positionals", "Arguments");
+    program.formatter(formatter);
+    program.set_help_flag("-h,--help", "Print this help and exit");
+    program.set_version_flag("--version", "pondiff " PONDIFF_VERSION, "Print the version and exit");
+    program.require_subcommand(1);
+    program.footer(details());
+    add_diff(program, status);
+    add_pack(program, status);
+    add_show(program, status);
+    for (CLI::App* const command : program.get_subcommands({}))
+        command->group("Commands");
+    try {
+        program.parse(argc, argv);
+    } catch (const CLI::ParseError& request) {
+        return answer(program, request);
+    }
+    return status;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    ignore_signals_of_failed_writes();
+    try {
+        return run(argc, argv);
+    } catch (const std::bad_alloc&) {
+        tell("out of memory");
+    } catch (const std::exception& error) {
+        tell(error.what());
+    }
+    return trouble;
+}
