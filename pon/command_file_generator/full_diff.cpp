@@ -28,10 +28,12 @@ char* pondiff::full_diff(GCfg* orig, GCfg* cfg, CommonSet set)
     constexpr int common_records_only = 1;
     Operation operation;
     if (orig && cfg) {
-        if (print_common == common_records_only)
+        if (print_common == common_records_only) {
             diff_common_records(*orig, *cfg, set, operation.key, operation.list);
-        else
+        } else {
+            const Comparison comparison(orig, cfg, sizeof *orig);
             getdiff_GCfg(orig, cfg, operation.key, operation.list);
+        }
     }
     operation.go_to("root");
     return operation.finish(Ending::commit);

@@ -87,10 +87,10 @@ Script::~Script()
 
 bool Script::grow(std::size_t more)
 {
-    constexpr std::size_t least = 4096;
+    constexpr std::size_t least = 16384;
     constexpr std::size_t doubled_until = std::size_t{1} << 20;
-    // Small texts double; large ones grow by a quarter, so that little memory beyond the text is ever held.
-    std::size_t wanted = capacity_ < doubled_until ? capacity_ * 2 : capacity_ + capacity_ / 4;
+    // Small texts double; large ones grow by a third, so that little memory beyond the text is ever held.
+    std::size_t wanted = capacity_ < doubled_until ? capacity_ * 2 : capacity_ + capacity_ / 3;
     if (wanted < least)
         wanted = least;
     if (wanted < size_ + more + 1)

@@ -11,6 +11,7 @@
 
 #include "pon/DataToCommandsConvertor.h"
 #include "pon/diff_builder.h"
+#include "pon/diff_builder/comparison.h"
 #include "pon/diff_builder/formatting.h"
 
 #include <cstddef>
@@ -39,7 +40,7 @@ template <class T>
 bool wanted(Rule rule, const T& lhs, const T& rhs)
 {
     static_assert(alignof(T) == 1, "records and byte arrays only");
-    return forced(rule) || std::memcmp(&lhs, &rhs, sizeof(T)) != 0;
+    return forced(rule) || Comparison::differ(&lhs, &rhs, sizeof(T));
 }
 
 /// The first thing that a record diff asks: without `print_all`, two equal records say nothing, nor does a null one.
