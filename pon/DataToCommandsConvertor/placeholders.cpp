@@ -23,13 +23,19 @@ const char* row_of(const char (&rows)[Slots][16], int index)
 
 /// A command family that shows its first identifier as a name. The value has no entry where it is null.
 struct Family {
+    template <std::size_t N>
+    constexpr Family(const char (&begins)[N], const char* in_front, const char* behind, const char* (*name)(int))
+        : prefix(begins), size(N - 1), before(in_front), after(behind), value(name)
+    {
+    }
     const char* prefix;
+    std::size_t size;
     const char* before; ///< what stands before the name and ...
     const char* after;  ///< ... behind it
     const char* (*value)(int index);
 };
 
-const Family families[] = {
+constexpr Family families[] = {
     {"user $ID0", "user \"", "\" ", [](int i) { return name_in(user2id_connection, GCFG_USERS, i); }},
     {"log submodule $ID0", "log submodule ", " ", getCliSubmoduleType},
     {"alarm $ID0", "alarm ", " ",
@@ -41,11 +47,13 @@ const Family families[] = {
     {"ip source-guard bind ip $ID0", "ip source-guard bind ip ", " ", [](int i) { return row_of(sourceguardip, i); }},
 };
 
-void name_first_identifier(Text& line, int id)
+/// `first_mark` is where the first mark of the line stands: a family's prefix ends with it and the digit 0.
+void name_first_identifier(Text& line, std::size_t first_mark, int id)
 {
+    const std::size_t prefix_size = first_mark + mark_size + 1;
     for (const Family& family : families) {
-        const std::size_t size = std::strlen(family.prefix);
-        if (line.size() < size || std::memcmp(line.data(), family.prefix, size) != 0)
+        if (family.size != prefix_size || line.size() < prefix_size ||
+            std::memcmp(line.data(), family.prefix, prefix_size) != 0)
             continue;
         const char* const value = family.value(id);
         Text named;
@@ -53,7 +61,7 @@ void name_first_identifier(Text& line, int id)
         named.append(value ? value : "");
         named.append(family.after);
         // The blank behind the placeholder goes with it: the name brings its own.
-        line.replace_front(std::min(size + 1, line.size()), named);
+        line.replace_front(std::min(prefix_size + 1, line.size()), named);
         return;
     }
 }
@@ -96,9 +104,10 @@ char* find_mark(char* from, char* end)
 
 void substitute(Text& line, const int* ids)
 {
-    if (!find_mark(line.data(), line.data() + line.size()))
+    const char* const first_mark = find_mark(line.data(), line.data() + line.size());
+    if (!first_mark)
         return;
-    name_first_identifier(line, ids[0]);
+    name_first_identifier(line, static_cast<std::size_t>(first_mark - line.data()), ids[0]);
 
     int slot = 0; // a mark without a number takes the number read last
     std::size_t done = 0;

@@ -158,14 +158,6 @@ bool prefix_match(const char* a, const char* b)
     return !*a || !*b;
 }
 
-const view_data* registered_view(const char* name)
-{
-    for (const view_data& entry : views)
-        if (prefix_match(entry.name, name))
-            return &entry;
-    return nullptr;
-}
-
 const char* standing_view()
 {
     return current_view.name ? current_view.name : views[root].name;
@@ -320,26 +312,31 @@ view2view view2view_row(std::size_t index)
     return {name_of(group->from), name_of(to), way_to(group->from, to), way_from(group->from, to)};
 }
 
-bool stands_in(const char* view, const int* key)
+const view_data* registered_view(const char* name)
 {
-    // Nearly every command is asked for in the view of the one before.
+    // Most views are asked for many times in a row, and an exact name matches no other entry.
     static const view_data* met_last = views;
-    if (met_last->name == current_view.name && std::strcmp(met_last->name, view) == 0)
-        return same_object(*met_last, key);
-    const view_data* const target = registered_view(view);
-    if (!target)
-        return false;
-    met_last = target;
-    return prefix_match(standing_view(), view) && same_object(*target, key);
+    if (std::strcmp(met_last->name, name) == 0)
+        return met_last;
+    for (const view_data& entry : views)
+        if (prefix_match(entry.name, name))
+            return met_last = &entry;
+    return nullptr;
+}
+
+bool stands_in(const view_data& view, const int* key)
+{
+    return current_view.name == view.name && same_object(view, key);
 }
 
 int goto_view(const char* view, const int* key, Text& out)
 {
-    if (!registered_view(view)) {
+    const view_data* const target = registered_view(view);
+    if (!target) {
         std::printf("\n\n\n\nVIEW %s NOT FOUND!!!!!!!!!!!!!!\n\n\n", view);
         return -1;
     }
-    if (stands_in(view, key))
+    if (prefix_match(standing_view(), view) && same_object(*target, key))
         return 0;
     const ViewId standing = id_of(standing_view());
     const ViewId wanted = id_of(view);

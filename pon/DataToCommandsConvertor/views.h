@@ -33,8 +33,11 @@ const view_data& view(std::size_t index);
 std::size_t view2view_count();
 view2view view2view_row(std::size_t index);
 
-/// True when the script already stands in `view` at the object `key`.
-bool stands_in(const char* view, const int* key);
+/// The registry's entry of a view; null when there is none.
+const view_data* registered_view(const char* name);
+
+/// True when the script already stands in a view of the registry at the object `key`.
+bool stands_in(const view_data& view, const int* key);
 
 /// `goto_view_buf` into a text of any length.
 int goto_view(const char* view, const int* key, Text& out);

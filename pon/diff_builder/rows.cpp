@@ -11,19 +11,42 @@ namespace pondiff {
 
 namespace {
 
-/// A scalar of a packed record, read from wherever it stands; the sign is carried on. Bytes arrive lowest first.
+template <class Unsigned, class Signed>
+std::int64_t load_as(const char* field, bool is_signed)
+{
+    Unsigned value;
+    std::memcpy(&value, field, sizeof value);
+    return is_signed ? static_cast<std::int64_t>(static_cast<Signed>(value)) : static_cast<std::int64_t>(value);
+}
+
+/// A scalar of a packed record, read from wherever it stands.
 std::int64_t load(const void* record, const RowData& row)
 {
-    std::uint64_t value = 0;
-    std::memcpy(&value, static_cast<const char*>(record) + row.offset, row.size);
-    const unsigned unused = 64 - 8U * row.size;
-    return row.is_signed ? static_cast<std::int64_t>(value << unused) >> unused : static_cast<std::int64_t>(value);
+    const char* const field = static_cast<const char*>(record) + row.offset;
+    switch (row.size) {
+    case 1:
+        return load_as<std::uint8_t, std::int8_t>(field, row.is_signed);
+    case 2:
+        return load_as<std::uint16_t, std::int16_t>(field, row.is_signed);
+    case 4:
+        return load_as<std::uint32_t, std::int32_t>(field, row.is_signed);
+    default:
+        return load_as<std::uint64_t, std::int64_t>(field, row.is_signed);
+    }
+}
+
+bool is_scalar(const RowData& row)
+{
+    return row.kind != RowData::Kind::text && (row.kind != RowData::Kind::value || row.how < Value::Form::ipv4);
 }
 
 bool changed(const RowData& row, const void* lhs, const void* rhs)
 {
-    if (row.mask != 0)
-        return ((load(lhs, row) ^ load(rhs, row)) & row.mask) != 0;
+    if (is_scalar(row)) {
+        const std::int64_t difference = load(lhs, row) ^ load(rhs, row);
+        const bool bits_count = row.kind == RowData::Kind::flag && row.detail != 0;
+        return (bits_count ? difference & row.detail : difference) != 0;
+    }
     return std::memcmp(static_cast<const char*>(lhs) + row.offset, static_cast<const char*>(rhs) + row.offset,
                        row.compared) != 0;
 }
@@ -69,7 +92,7 @@ bool forced(Rule rule)
 
 bool navigate(const Where& where)
 {
-    if (stands_in(where.view, where.key))
+    if (where.entry && stands_in(*where.entry, where.key))
         return push(where.out, "", 0);
     Text text;
     goto_view(where.view, where.key, text);
@@ -91,39 +114,61 @@ bool append_values(List<char>& out, const char* form, const Value* values, std::
     return push_text(out, line);
 }
 
+namespace {
+
+/// `emit` of a row's template, whose parts are known: up to the first conversion, between the two, and the rest.
+void emit_parts(const Where& where, const char* form, const RowData::Parts& parts, const Value* value)
+{
+    if (!navigate(where))
+        return;
+    Text line;
+    std::size_t done = 0;
+    std::uint8_t next = parts.first;
+    for (const Value* const filling : {where.lead, value}) {
+        if (!filling || next == RowData::Parts::none)
+            continue;
+        line.append(form + done, next - done);
+        filling->append_to(line);
+        done = next + 2U;
+        next = parts.second;
+    }
+    line.append(form + done, parts.size - done);
+    substitute(line, where.key);
+    push_text(where.out, line);
+}
+
+} // namespace
+
 void emit_row(const RowData& row, bool force, const void* lhs, const void* rhs, const Where& where)
 {
     if (!force && !changed(row, lhs, rhs))
         return;
+    const auto emit_value = [&](const Value& value) { emit_parts(where, row.form, row.parts, &value); };
     const void* const field = static_cast<const char*>(rhs) + row.offset;
     switch (row.kind) {
     case RowData::Kind::flag: {
         const std::int64_t flag = load(rhs, row);
-        const bool on = (row.mask != 0 ? flag & row.mask : flag) != 0;
-        emit(where, on ? row.form : row.extra.text);
+        if ((row.detail != 0 ? flag & row.detail : flag) != 0)
+            emit_parts(where, row.form, row.parts, nullptr);
+        else
+            emit_parts(where, row.extra.text, row.extra_parts, nullptr);
         break;
     }
-    case RowData::Kind::value: {
-        const bool is_address = row.how >= Value::Form::ipv4;
-        const Value value =
-            is_address ? Value::bytes(row.how, field) : Value::number(row.how, load(rhs, row), row.digits);
-        emit(where, row.form, value);
+    case RowData::Kind::value:
+        emit_value(is_scalar(row) ? Value::number(row.how, load(rhs, row), row.detail) : Value::bytes(row.how, field));
         break;
-    }
-    case RowData::Kind::text: {
-        const Value value = Value::text(field, row.size, row.how);
-        emit(where, row.form, value);
+    case RowData::Kind::text:
+        emit_value(Value::text(field, row.size, row.how));
         break;
-    }
     case RowData::Kind::word:
-        emit(where, row.form, row.extra.name(static_cast<int>(load(rhs, row))));
+        emit_value(row.extra.name(static_cast<int>(load(rhs, row))));
         break;
     case RowData::Kind::enum_word:
-        emit(where, row.form, enum_word(row.extra.text, load(rhs, row)));
+        emit_value(enum_word(row.extra.text, load(rhs, row)));
         break;
     case RowData::Kind::reference:
         if (const char* const name = row.extra.name(static_cast<int>(load(rhs, row))))
-            emit(where, row.form, name);
+            emit_value(name);
         break;
     }
 }

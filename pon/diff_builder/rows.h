@@ -10,6 +10,7 @@
 /// text, the field's width and sign come from the struct.
 
 #include "pon/DataToCommandsConvertor.h"
+#include "pon/DataToCommandsConvertor/views.h"
 #include "pon/diff_builder.h"
 #include "pon/diff_builder/comparison.h"
 #include "pon/diff_builder/formatting.h"
@@ -55,10 +56,16 @@ bool nothing_to_say(const T* lhs, const T* rhs)
 /// Where commands go: the CLI view they are valid in, the object's key, the list, and a value that fills the first
 /// conversion of every template (a direction, a service's prefix, a port's number), if there is one.
 struct Where {
+    Where(const char* view_name, int* object_key, List<char>& list, const Value* leading_value = nullptr)
+        : view(view_name), key(object_key), out(list), lead(leading_value), entry(registered_view(view_name))
+    {
+    }
+
     const char* view;
     int* key;
     List<char>& out;
-    const Value* lead = nullptr;
+    const Value* lead;
+    const view_data* entry; ///< of the view in the registry; null when there is no such view
 };
 
 /// Appends the navigation to the view and object; an empty element when the script stands there. Like the others, it
@@ -123,15 +130,31 @@ struct RowData {
         const char* text;
         const char* (*name)(int);
     };
+    /// Where a template's parts end, worked out when it is compiled: no template is taken apart twice.
+    struct Parts {
+        constexpr Parts(const char* form)
+        {
+            while (form && form[size] != '\0') {
+                if (form[size] == '%')
+                    (first == none ? first : second) = size;
+                ++size;
+            }
+        }
+        static constexpr std::uint8_t none = 0xFF;
+        std::uint8_t first = none; ///< where the first conversion stands, ...
+        std::uint8_t second = none;
+        std::uint8_t size = 0;
+    };
     const char* form;
     Extra extra;
+    Parts parts;       ///< of `form`
+    Parts extra_parts; ///< of `extra.text`, where it is a command
     std::uint16_t offset;
     std::uint16_t size;
     std::uint16_t compared;
     Kind kind;
     Value::Form how;
-    std::uint8_t digits;
-    std::uint8_t mask; ///< 0: the whole field counts
+    std::uint8_t detail; ///< flag: the bits that count, 0 for the whole field; value: least hexadecimal digits
     bool is_signed;
 };
 
@@ -145,9 +168,11 @@ namespace rows {
 
 template <class Record, class Type>
 constexpr Row<Record> row(Field<Record, Type> field, RowData::Kind kind, const char* form, RowData::Extra extra = {},
-                          Value::Form how = Value::Form::text, std::uint8_t digits = 1)
+                          Value::Form how = Value::Form::text, std::uint8_t detail = 0)
 {
-    return {{form, extra, field.offset, sizeof(Type), field.compared, kind, how, digits, 0, std::is_signed_v<Type>}};
+    const bool two_commands = kind == RowData::Kind::flag;
+    return {{form, extra, form, two_commands ? extra.text : nullptr, field.offset, sizeof(Type), field.compared, kind,
+             how, detail, std::is_signed_v<Type>}};
 }
 
 template <class Record, class Type>
@@ -178,7 +203,7 @@ constexpr Row<R> bit(Field<R, T> field, std::uint8_t mask, const char* on, const
 {
     static_assert(rows::is_number<T>);
     Row<R> row = rows::row(field, RowData::Kind::flag, on, off);
-    row.data.mask = mask;
+    row.data.detail = mask;
     return row;
 }
 
