@@ -8,29 +8,23 @@ namespace {
 
 constexpr std::size_t most_digits = 20;
 
-/// Writes the digits so that they end at `end`; returns where they begin.
 template <class Number>
-char* put_backwards(char* end, Number value)
+std::size_t put_digits(char* out, Number value)
 {
-    do {
-        *--end = static_cast<char>('0' + value % 10);
-        value /= 10;
-    } while (value != 0);
-    return end;
+    std::size_t count = 1;
+    for (Number rest = value; rest >= 10; rest /= 10)
+        ++count;
+    for (char* at = out + count; at != out; value /= 10)
+        *--at = static_cast<char>('0' + value % 10);
+    return count;
 }
 
 } // namespace
 
 std::size_t put_natural(char* out, std::uint64_t value)
 {
-    char digits[most_digits];
-    char* const end = digits + most_digits;
     // Nearly all values are narrow, and narrow division is several times as quick.
-    const char* const begin =
-        value <= UINT32_MAX ? put_backwards(end, static_cast<std::uint32_t>(value)) : put_backwards(end, value);
-    const auto count = static_cast<std::size_t>(end - begin);
-    std::memcpy(out, begin, count);
-    return count;
+    return value <= UINT32_MAX ? put_digits(out, static_cast<std::uint32_t>(value)) : put_digits(out, value);
 }
 
 std::size_t put_decimal(char* out, std::int64_t value)
@@ -65,14 +59,14 @@ bool Text::grow(std::size_t more)
 
 void Text::append_natural(std::uint64_t value)
 {
-    char digits[most_digits];
-    append(digits, put_natural(digits, value));
+    if (has_room(most_digits))
+        size_ += put_natural(data_ + size_, value);
 }
 
 void Text::append_decimal(std::int64_t value)
 {
-    char digits[most_digits];
-    append(digits, put_decimal(digits, value));
+    if (has_room(most_digits))
+        size_ += put_decimal(data_ + size_, value);
 }
 
 void Text::append_aligned(int value)

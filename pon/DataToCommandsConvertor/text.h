@@ -23,7 +23,7 @@ class Text {
 
     void append(const char* bytes, std::size_t size)
     {
-        if (capacity_ - size_ <= size && !grow(size))
+        if (!has_room(size))
             return;
         std::memcpy(data_ + size_, bytes, size);
         size_ += size;
@@ -47,6 +47,7 @@ class Text {
     char* release_copy();
 
   private:
+    bool has_room(std::size_t size) { return capacity_ - size_ > size || grow(size); }
     bool grow(std::size_t more);
 
     static constexpr std::size_t inline_capacity = 1024;
