@@ -16,8 +16,8 @@ struct __attribute__((packed)) Head {
 struct Kind {
     const char* name;
     const char* enter; ///< the command that enters its view, up to the profile's name
-    int slots;
     void* (*slot)(GPonCfg& configuration, int index);
+    int slots;
     bool name_is_forced = true;
 };
 
@@ -27,21 +27,21 @@ std::ostream& operator<<(std::ostream& out, const Kind& kind)
 }
 
 const Kind kinds[] = {
-    {"address-table", "profile address-table", 32,
-     [](GPonCfg& pon, int i) -> void* { return &pon.profiles_olt.address_table[i]; }},
-    {"cross-connect", "profile cross-connect", 128,
-     [](GPonCfg& pon, int i) -> void* { return &pon.profiles_ont.cross_connect[i]; }},
-    {"dba", "profile dba", 128, [](GPonCfg& pon, int i) -> void* { return &pon.profiles_ont.alloc[i]; }},
-    {"dhcp-ra", "profile dhcp-ra", 32, [](GPonCfg& pon, int i) -> void* { return &pon.profiles_olt.dhcp_ra[i]; }},
-    {"dhcpv6-ra", "profile dhcpv6-ra", 32, [](GPonCfg& pon, int i) -> void* { return &pon.profiles_olt.dhcpv6_ra[i]; }},
-    {"management", "profile management", 32,
-     [](GPonCfg& pon, int i) -> void* { return &pon.profiles_ont.management[i]; }},
-    {"ports", "profile ports", 32, [](GPonCfg& pon, int i) -> void* { return &pon.profiles_ont.ports[i]; }},
-    {"voice", "profile voice", 32, [](GPonCfg& pon, int i) -> void* { return &pon.profiles_ont.voice[i]; }},
-    {"pppoe-ia", "profile pppoe-ia", 32, [](GPonCfg& pon, int i) -> void* { return &pon.profiles_olt.pppoe_ia[i]; }},
-    {"shaping", "profile shaping", 128, [](GPonCfg& pon, int i) -> void* { return &pon.profiles_ont.shaping[i]; }},
-    {"vlan", "profile vlan", 32, [](GPonCfg& pon, int i) -> void* { return &pon.profiles_olt.vlan[i]; }, false},
-    {"template", "template", 32, [](GPonCfg& pon, int i) -> void* { return &pon.profiles_ont.template_ont[i]; }},
+    {"address-table", "profile address-table",
+     [](GPonCfg& pon, int i) -> void* { return &pon.profiles_olt.address_table[i]; }, 32},
+    {"cross-connect", "profile cross-connect",
+     [](GPonCfg& pon, int i) -> void* { return &pon.profiles_ont.cross_connect[i]; }, 128},
+    {"dba", "profile dba", [](GPonCfg& pon, int i) -> void* { return &pon.profiles_ont.alloc[i]; }, 128},
+    {"dhcp-ra", "profile dhcp-ra", [](GPonCfg& pon, int i) -> void* { return &pon.profiles_olt.dhcp_ra[i]; }, 32},
+    {"dhcpv6-ra", "profile dhcpv6-ra", [](GPonCfg& pon, int i) -> void* { return &pon.profiles_olt.dhcpv6_ra[i]; }, 32},
+    {"management", "profile management", [](GPonCfg& pon, int i) -> void* { return &pon.profiles_ont.management[i]; },
+     32},
+    {"ports", "profile ports", [](GPonCfg& pon, int i) -> void* { return &pon.profiles_ont.ports[i]; }, 32},
+    {"voice", "profile voice", [](GPonCfg& pon, int i) -> void* { return &pon.profiles_ont.voice[i]; }, 32},
+    {"pppoe-ia", "profile pppoe-ia", [](GPonCfg& pon, int i) -> void* { return &pon.profiles_olt.pppoe_ia[i]; }, 32},
+    {"shaping", "profile shaping", [](GPonCfg& pon, int i) -> void* { return &pon.profiles_ont.shaping[i]; }, 128},
+    {"vlan", "profile vlan", [](GPonCfg& pon, int i) -> void* { return &pon.profiles_olt.vlan[i]; }, 32, false},
+    {"template", "template", [](GPonCfg& pon, int i) -> void* { return &pon.profiles_ont.template_ont[i]; }, 32},
 };
 
 const std::string nothing = "configure terminal\nexit\ncommit\n";
@@ -50,7 +50,7 @@ const std::string nothing = "configure terminal\nexit\ncommit\n";
 class PartialProfiles : public PartialDiff, public testing::WithParamInterface<Kind> {
   protected:
     /// A profile that both configurations hold; the new one describes it otherwise.
-    void change(const Kind& of, int index, const std::string& name)
+    void change(const Kind& of, int index, const std::string& name) const
     {
         Head head{};
         head.exist = 1;
@@ -60,7 +60,7 @@ class PartialProfiles : public PartialDiff, public testing::WithParamInterface<K
         std::memcpy(of.slot(session.cfg->pon, index), &head, sizeof head);
     }
 
-    void change_every_kind(int index, const std::string& name)
+    void change_every_kind(int index, const std::string& name) const
     {
         for (const Kind& any : kinds)
             change(any, index < 0 ? any.slots + index : index, name);

@@ -48,7 +48,7 @@ class PlainSymbols : public testing::Test {
 
     using Operation = std::function<char*()>;
 
-    Outcome outcome(const view_state& from, const Operation& operation)
+    static Outcome outcome(const view_state& from, const Operation& operation)
     {
         current_view = from;
         const std::string text = taken(operation());

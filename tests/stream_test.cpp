@@ -32,8 +32,8 @@ class Stream : public testing::Test {
         file_to_dump = nullptr;
     }
 
-    std::string diff(FILE* stream) { return taken(GetDiffMemSafe(session.orig, session.cfg, stream)); }
-    std::string routes(FILE* stream)
+    std::string diff(FILE* stream) const { return taken(GetDiffMemSafe(session.orig, session.cfg, stream)); }
+    std::string routes(FILE* stream) const
     {
         return taken(GetRoutesDiffMemSafe(&session.orig->system.services.routing, &session.cfg->system.services.routing,
                                           stream));

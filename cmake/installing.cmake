@@ -1,0 +1,85 @@
+# What "cmake --install" puts where, for programs that find the library with CMake or pkg-config, and the Debian packages
+# that "cpack" in the build folder makes of it.
+include(CMakePackageConfigHelpers)
+
+set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/pondiff)
+# The installed tree may stand anywhere and be moved: whatever refers to other files of it does so from its own place.
+file(RELATIVE_PATH libraries_from_programs /${CMAKE_INSTALL_BINDIR} /${CMAKE_INSTALL_LIBDIR})
+file(RELATIVE_PATH prefix_from_pkgconfig /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
+string(REGEX REPLACE "/$" "" prefix_from_pkgconfig ${prefix_from_pkgconfig})
+
+set_target_properties(pondiff-library PROPERTIES EXPORT_NAME pondiff INSTALL_RPATH "$ORIGIN")
+set_target_properties(pondiff-platform PROPERTIES EXPORT_NAME platform)
+install(TARGETS pondiff-library pondiff-platform
+    EXPORT pondiff
+    LIBRARY COMPONENT library NAMELINK_COMPONENT development
+    INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+
+install(DIRECTORY include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT development FILES_MATCHING PATTERN *.h)
+install(FILES
+    pon/DataToCommandsConvertor.h pon/command_file_generator.h pon/diff_builder.h pon/visibility.h
+    DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/pon COMPONENT development)
+install(FILES platform/platform.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/pondiff COMPONENT development)
+
+install(EXPORT pondiff
+    NAMESPACE pondiff:: FILE pondiff-targets.cmake DESTINATION ${package_folder} COMPONENT development)
+configure_package_config_file(cmake/pondiff-config.cmake.in pondiff-config.cmake
+    INSTALL_DESTINATION ${package_folder} NO_SET_AND_CHECK_MACRO NO_CHECK_REQUIRED_COMPONENTS_MACRO)
+write_basic_package_version_file(pondiff-config-version.cmake COMPATIBILITY SameMinorVersion)
+install(FILES ${CMAKE_CURRENT_BINARY_DIR}/pondiff-config.cmake ${CMAKE_CURRENT_BINARY_DIR}/pondiff-config-version.cmake
+    DESTINATION ${package_folder} COMPONENT development)
+configure_file(cmake/pondiff.pc.in pondiff.pc @ONLY)
+install(FILES ${CMAKE_CURRENT_BINARY_DIR}/pondiff.pc
+    DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT development)
+
+if(TARGET pondiff)
+    set_target_properties(pondiff PROPERTIES INSTALL_RPATH "$ORIGIN/${libraries_from_programs}")
+    install(TARGETS pondiff RUNTIME COMPONENT program)
+endif()
+
+# ------------------------------------------------------------------------------------------------- Debian packages
+
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_CONTACT "The pondiff maintainers <maintainers@pondiff.invalid>")
+set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+set(CPACK_STRIP_FILES ON)
+set(CPACK_DEB_COMPONENT_INSTALL ON)
+set(CPACK_COMPONENTS_ALL library development)
+if(TARGET pondiff)
+    list(APPEND CPACK_COMPONENTS_ALL program)
+endif()
+
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${PROJECT_BINARY_DIR}/pon ${PROJECT_BINARY_DIR}/platform)
+set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "") # each package has its own, the first line of its description
+set(same_library "libpondiff1 (= ${PROJECT_VERSION})")
+
+set(CPACK_DEBIAN_LIBRARY_PACKAGE_NAME libpondiff1)
+set(CPACK_DEBIAN_LIBRARY_PACKAGE_SECTION libs)
+set(CPACK_DEBIAN_LIBRARY_DESCRIPTION "${PROJECT_DESCRIPTION} (library)
+Given the configuration that a GPON OLT runs and the one wanted, the library
+writes the commands of the device's CLI that turn the one into the other.
+
+This package holds the library and the stand-in for the device's own library of
+converters and CLI words, which serves where that one is not there.")
+
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME libpondiff-dev)
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS ${same_library})
+set(CPACK_DEBIAN_DEVELOPMENT_DESCRIPTION "${PROJECT_DESCRIPTION} (development files)
+Given the configuration that a GPON OLT runs and the one wanted, the library
+writes the commands of the device's CLI that turn the one into the other.
+
+This package holds the headers for C and C++ and what CMake and pkg-config need
+to find the library.")
+
+set(CPACK_DEBIAN_PROGRAM_PACKAGE_NAME pondiff)
+set(CPACK_DEBIAN_PROGRAM_PACKAGE_SECTION net)
+set(CPACK_DEBIAN_PROGRAM_PACKAGE_DEPENDS ${same_library})
+set(CPACK_DEBIAN_PROGRAM_DESCRIPTION "${PROJECT_DESCRIPTION}
+Given the configuration that a GPON OLT runs and the one wanted, as packed
+records or as JSON documents, this program writes the commands of the device's
+CLI that turn the one into the other.")
+include(CPack)
