@@ -8,14 +8,41 @@ namespace {
 
 constexpr std::size_t most_digits = 20;
 
+/// The digits of 0 to 99, two by two: a division serves two digits.
+struct DigitPairs {
+    constexpr DigitPairs()
+    {
+        for (int i = 0; i < 100; ++i) {
+            digits[2 * i] = static_cast<char>('0' + i / 10);
+            digits[2 * i + 1] = static_cast<char>('0' + i % 10);
+        }
+    }
+    char digits[200] = {};
+};
+constexpr DigitPairs pairs;
+
+template <class Number>
+std::size_t count_digits(Number value)
+{
+    std::size_t count = 1;
+    for (; value >= 10000; value /= 10000)
+        count += 4;
+    return count + (value >= 10) + (value >= 100) + (value >= 1000);
+}
+
 template <class Number>
 std::size_t put_digits(char* out, Number value)
 {
-    std::size_t count = 1;
-    for (Number rest = value; rest >= 10; rest /= 10)
-        ++count;
-    for (char* at = out + count; at != out; value /= 10)
-        *--at = static_cast<char>('0' + value % 10);
+    const std::size_t count = count_digits(value);
+    char* at = out + count;
+    for (; value >= 100; value /= 100) {
+        at -= 2;
+        std::memcpy(at, pairs.digits + 2 * (value % 100), 2);
+    }
+    if (value >= 10)
+        std::memcpy(out, pairs.digits + 2 * value, 2);
+    else
+        *out = static_cast<char>('0' + value);
     return count;
 }
 
@@ -37,21 +64,21 @@ std::size_t put_decimal(char* out, std::int64_t value)
 
 Text::~Text()
 {
-    if (data_ != inline_)
+    if (data_ != inline_ && data_ != borrowed_)
         std::free(data_);
 }
 
 bool Text::grow(std::size_t more)
 {
     const std::size_t wanted = (size_ + more + 1) * 2;
-    char* const old = data_ == inline_ ? nullptr : data_;
+    char* const old = data_ == inline_ || data_ == borrowed_ ? nullptr : data_;
     auto* const bigger = static_cast<char*>(std::realloc(old, wanted));
     if (!bigger) {
         failed_ = true;
         return false;
     }
     if (!old)
-        std::memcpy(bigger, inline_, size_);
+        std::memcpy(bigger, data_, size_);
     data_ = bigger;
     capacity_ = wanted;
     return true;

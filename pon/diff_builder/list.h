@@ -18,6 +18,12 @@ class Script {
     Script& operator=(const Script&) = delete;
 
     void append_line(const char* text, std::size_t size);
+
+    /// Room behind the text in which a line may be built, so that it need not be copied there; null when there is none.
+    char* room();
+    std::size_t room_size() const { return capacity_ - size_; }
+    /// Takes the line that has been built in the room.
+    void take_line(std::size_t size);
     bool empty() const { return size_ == 0; }
     bool failed() const { return failed_; }
     /// Hands over the text, on the heap and with its terminator; null when part of it was lost.

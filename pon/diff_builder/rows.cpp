@@ -60,6 +60,33 @@ bool push_text(List<char>& out, const Text& text)
     return false;
 }
 
+/// A line under construction: where it is bound for when that is the text of the operation under way, else on the
+/// stack.
+class Line {
+  public:
+    explicit Line(List<char>& out)
+        : out_(out), script_(Script::of(out)), room_(script_ ? script_->room() : nullptr),
+          text_(room_ ? Text(room_, script_->room_size() - 1) : Text())
+    {
+    }
+
+    Text& text() { return text_; }
+
+    bool push()
+    {
+        if (!room_ || text_.failed() || text_.data() != room_)
+            return push_text(out_, text_);
+        script_->take_line(text_.size());
+        return true;
+    }
+
+  private:
+    List<char>& out_;
+    Script* script_;
+    char* room_;
+    Text text_;
+};
+
 /// The values of a template: the one that leads all of the table's commands, if there is one, and the row's own.
 void format_command(Text& line, const Where& where, const char* form, const Value* values, std::size_t count)
 {
@@ -101,10 +128,10 @@ bool navigate(const Where& where)
 
 bool command_values(const Where& where, const char* form, const Value* values, std::size_t count)
 {
-    Text line;
-    format_command(line, where, form, values, count);
-    substitute(line, where.key);
-    return push_text(where.out, line);
+    Line line(where.out);
+    format_command(line.text(), where, form, values, count);
+    substitute(line.text(), where.key);
+    return line.push();
 }
 
 bool append_values(List<char>& out, const char* form, const Value* values, std::size_t count)
@@ -121,20 +148,20 @@ void emit_parts(const Where& where, const char* form, const RowData::Parts& part
 {
     if (!navigate(where))
         return;
-    Text line;
+    Line line(where.out);
     std::size_t done = 0;
     std::uint8_t next = parts.first;
     for (const Value* const filling : {where.lead, value}) {
         if (!filling || next == RowData::Parts::none)
             continue;
-        line.append(form + done, next - done);
-        filling->append_to(line);
+        line.text().append(form + done, next - done);
+        filling->append_to(line.text());
         done = next + 2U;
         next = parts.second;
     }
-    line.append(form + done, parts.size - done);
-    substitute(line, where.key);
-    push_text(where.out, line);
+    line.text().append(form + done, parts.size - done);
+    substitute(line.text(), where.key);
+    line.push();
 }
 
 } // namespace
