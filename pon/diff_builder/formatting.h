@@ -14,16 +14,16 @@ namespace pondiff {
 class Value {
   public:
     enum class Form : std::uint8_t {
-        text,
         decimal,
         natural,
         hexadecimal,
         decimal_or_unused, ///< -1 is "unused"
         ber_interval,      ///< all bits set is "none"
-        channel_format,    ///< a text in which the marker of the GPON port is renamed
         ipv4,
         ipv6,
-        mac,
+        text,
+        channel_format, ///< a text in which the marker of the GPON port is renamed
+        mac,            ///< from here on the platform's library writes
         serial,
         engine_id,
     };
@@ -50,6 +50,11 @@ class Value {
     static Value bytes(Form form, const void* bytes) { return {form, bytes, 0}; }
 
     void append_to(Text& out) const;
+    /// Whether what is written may hold a placeholder of its own.
+    bool may_hold_mark() const
+    {
+        return form_ >= Form::mac || (form_ >= Form::text && std::memchr(bytes_, '$', size_) != nullptr);
+    }
 
   private:
     Value(Form form, const void* bytes, std::size_t size) : form_(form), size_(size), bytes_(bytes) {}

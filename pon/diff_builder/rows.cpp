@@ -37,7 +37,8 @@ std::int64_t load(const void* record, const RowData& row)
 
 bool is_scalar(const RowData& row)
 {
-    return row.kind != RowData::Kind::text && (row.kind != RowData::Kind::value || row.how < Value::Form::ipv4);
+    return row.kind != RowData::Kind::text &&
+           (row.kind != RowData::Kind::value || row.how <= Value::Form::ber_interval);
 }
 
 bool changed(const RowData& row, const void* lhs, const void* rhs)
@@ -121,9 +122,13 @@ bool navigate(const Where& where)
 {
     if (where.entry && stands_in(*where.entry, where.key))
         return push(where.out, "", 0);
+    const view_state before = current_view;
     Text text;
     goto_view(where.view, where.key, text);
-    return push_text(where.out, text);
+    if (push_text(where.out, text))
+        return true;
+    current_view = before; // the script never gets there: the next command has to
+    return false;
 }
 
 bool command_values(const Where& where, const char* form, const Value* values, std::size_t count)
@@ -143,24 +148,44 @@ bool append_values(List<char>& out, const char* form, const Value* values, std::
 
 namespace {
 
+/// Writes the identifier over a placeholder, in the four characters that it takes.
+void write_identifier(char* mark, const int* key)
+{
+    const int slot = mark[3] - '0';
+    Text identifier;
+    identifier.append_aligned(key[slot]);
+    std::memcpy(mark, identifier.data(), 4);
+}
+
 /// `emit` of a row's template, whose parts are known: up to the first conversion, between the two, and the rest.
 void emit_parts(const Where& where, const char* form, const RowData::Parts& parts, const Value* value)
 {
+    constexpr std::uint8_t none = RowData::Parts::none;
     if (!navigate(where))
         return;
     Line line(where.out);
     std::size_t done = 0;
     std::uint8_t next = parts.first;
+    std::size_t mark = parts.mark; // where the placeholder comes to stand
+    bool values_hold_marks = false;
     for (const Value* const filling : {where.lead, value}) {
-        if (!filling || next == RowData::Parts::none)
+        if (!filling || next == none)
             continue;
         line.text().append(form + done, next - done);
+        const std::size_t before = line.text().size();
         filling->append_to(line.text());
+        values_hold_marks = values_hold_marks || filling->may_hold_mark();
         done = next + 2U;
+        if (next < parts.mark)
+            mark += line.text().size() - before - 2;
         next = parts.second;
     }
     line.text().append(form + done, parts.size - done);
-    substitute(line.text(), where.key);
+    // Slot 0 may be shown as a name; every other placeholder of a template is a number in its own place.
+    if (values_hold_marks || (parts.mark != none && form[parts.mark + 3] == '0'))
+        substitute(line.text(), where.key);
+    else if (parts.mark != none && !line.text().failed())
+        write_identifier(line.text().data() + mark, where.key);
     line.push();
 }
 

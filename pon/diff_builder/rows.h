@@ -130,19 +130,21 @@ struct RowData {
         const char* text;
         const char* (*name)(int);
     };
-    /// Where a template's parts end, worked out when it is compiled: no template is taken apart twice.
+    /// The parts of a template, worked out when it is compiled: none is taken apart when it is emitted.
     struct Parts {
         constexpr Parts(const char* form)
         {
-            while (form && form[size] != '\0') {
+            for (; form && form[size] != '\0'; ++size) {
                 if (form[size] == '%')
                     (first == none ? first : second) = size;
-                ++size;
+                if (form[size] == '$')
+                    mark = size;
             }
         }
         static constexpr std::uint8_t none = 0xFF;
         std::uint8_t first = none; ///< where the first conversion stands, ...
         std::uint8_t second = none;
+        std::uint8_t mark = none; ///< where the placeholder stands; there is one at the most
         std::uint8_t size = 0;
     };
     const char* form;

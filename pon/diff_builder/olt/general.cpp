@@ -154,8 +154,8 @@ bool getdiff_GPonOltGeneralDBAShortCycleCfg(GPonOltGeneralDBAShortCycle* lhs, GP
         return false;
     const Where where{"configure-view", key, out};
     for (int port = 0; port < GCFG_GPON_PORTS; port += 2) {
-        navigate(where);
-        if (!forced(changed_or_common) && lhs->gpon_port[port] == rhs->gpon_port[port])
+        const bool there = navigate(where);
+        if (!there || (!forced(changed_or_common) && lhs->gpon_port[port] == rhs->gpon_port[port]))
             continue;
         command(where,
                 rhs->gpon_port[port] != 0 ? "gpon olt dba-short-cycle gpon-port %d-%d"

@@ -88,8 +88,8 @@ bool getdiff_GPonOntCfg(GPonOntCfg* lhs, GPonOntCfg* rhs, int* key, List<char>& 
         return false;
     if (lhs->exist != rhs->exist) {
         if (rhs->exist == 0) {
-            navigate({"configure-view", key, out});
-            append(out, "no interface ont %d/%d", key[0] / GCFG_ONTS_PER_PORT, key[0] % GCFG_ONTS_PER_PORT);
+            if (navigate({"configure-view", key, out}))
+                append(out, "no interface ont %d/%d", key[0] / GCFG_ONTS_PER_PORT, key[0] % GCFG_ONTS_PER_PORT);
             return false;
         }
         navigate({ont_view, key, out}); // creates it

@@ -51,8 +51,8 @@ bool getdiff_GPonProfileOltAddressTable(GPonProfileOltAddressTable* lhs, GPonPro
     if (no_profile(lhs, rhs))
         return false;
     if (rhs->exist == 0) {
-        navigate({"configure-view", key, out});
-        append(out, "no profile address-table %s", text(lhs->name));
+        if (navigate({"configure-view", key, out}))
+            append(out, "no profile address-table %s", text(lhs->name));
         return false;
     }
     const Where where{"address-table-view", key, out};

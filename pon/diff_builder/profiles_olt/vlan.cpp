@@ -23,8 +23,8 @@ bool getdiff_GPonProfileOltVlan(GPonProfileOltVlan* lhs, GPonProfileOltVlan* rhs
     if (no_profile(lhs, rhs))
         return false;
     if (rhs->exist == 0) {
-        navigate({"configure-view", key, out});
-        append(out, "no profile vlan %s", text(lhs->name));
+        if (navigate({"configure-view", key, out}))
+            append(out, "no profile vlan %s", text(lhs->name));
         return false;
     }
     const Where where{"vlan-view", key, out};
