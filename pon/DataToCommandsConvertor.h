@@ -31,7 +31,8 @@ extern view_state current_view;
 /// @param key   ten identifiers: the GPON port, ONT or profile index in key[0]
 /// @param out   room for 1024 bytes; left as it is when the script already stands there. Several commands are
 ///              separated by line feeds; there is none at the end.
-/// @return 0; -1 when the view is unknown, which is also said on standard output
+/// @return 0; -1 when the view is unknown, which is also said on standard output, when an argument is null, or when the
+///         text would not fit: the script then stands where it stood
 int goto_view_buf(const char* view, int* key, char* out);
 
 // --------------------------------------------------------------------------------------------------- placeholders
@@ -42,7 +43,8 @@ int goto_view_buf(const char* view, int* key, char* out);
 /// @return heap text, released with `free`; null when memory cannot be had
 char* useVariables(char* command, int* ids);
 
-/// `useVariables` into a buffer of the caller: at most `size` bytes, terminator included. Always returns 0.
+/// `useVariables` into a buffer of the caller: at most `size` bytes, terminator included; an empty text when memory for
+/// a template of more than 1000 characters cannot be had. Always returns 0.
 int generate_command_buf(char* command, int* ids, char* output, std::size_t size);
 
 // ---------------------------------------------------------------------------------------------------- name tables

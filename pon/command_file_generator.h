@@ -6,8 +6,9 @@
 ///
 /// Order of calls: `initiate_diff`, any number of operations on the same two records, `finalize_diff`. The records are
 /// the caller's and are only read, the selective-tunnel lists of the new one excepted (they are sorted in place). Every
-/// text returned is the caller's, who releases it with `free`; null means that memory for the whole text could not be
-/// had. All state is process-global: one session at a time, from one thread.
+/// text returned is the caller's, who releases it with `free`. It is null, never shortened, when memory for the whole
+/// of it could not be had; the session stays usable then and the script stands where it stood before. All state is
+/// process-global: one session at a time, from one thread.
 
 #include "gcfg/gcfg.h"
 #include "pon/diff_builder.h"

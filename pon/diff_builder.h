@@ -7,7 +7,9 @@
 /// A record diff takes the old record (`lhs`), the new one (`rhs`), the key (ten identifiers of the enclosing objects)
 /// and the list that it appends to. Unless `print_all` is set it returns at once when the two are equal byte for byte.
 /// For each command it pushes the navigation to the command's view, empty when the script stands there already, and
-/// then the command. The result carries no meaning. Records are only read, the selective-tunnel list excepted.
+/// then the command. The result carries no meaning. Records are only read, the selective-tunnel list excepted. Where
+/// memory for a navigation or a command cannot be had, the command is left out; no other one ever stands in a view that
+/// it does not belong to.
 
 #include "gcfg/gcfg.h"
 #include "pon/visibility.h"

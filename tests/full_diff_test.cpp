@@ -314,4 +314,51 @@ TEST(FullDiff, WalkOverTheOntsLeavesItsKeys)
     EXPECT_EQ(walk->key[1], 3);
 }
 
+bool holds(const std::string& text, const std::string& part)
+{
+    return text.find(part) != std::string::npos;
+}
+
+TEST(FullDiff, PrintAllRendersEqualProfilesAndOltSettings)
+{
+    Session session;
+    session.cfg->pon.profiles_olt.vlan[0].exist = 1;
+    put(session.cfg->pon.profiles_olt.vlan[0].name, "office");
+    session.cfg->pon.profiles_ont.management[31].exist = 1;
+    put(session.cfg->pon.profiles_ont.management[31].name, "remote");
+    session.settle();
+    session.open(1, 0);
+    for (const std::string& text : {session.full_diff(), taken(GetPonDiff(&session.orig->pon, &session.cfg->pon))}) {
+        EXPECT_TRUE(holds(text, "profile vlan \"office\"\ndescription \"\"\nuplink extended svlan-type \"0x0000\"\n"));
+        EXPECT_TRUE(holds(text, "profile management \"remote\"\nname \"remote\"\ndescription \"\"\n"
+                                "no omci-configuration\n"));
+        EXPECT_TRUE(holds(text, "interface gpon-port    7\nprofile vlan \"office\"\nshutdown\n"));
+        EXPECT_FALSE(holds(text, "gpon network"));
+        EXPECT_FALSE(holds(text, "interface ont"));
+    }
+}
+
+TEST(FullDiff, PrintAllRendersTheCommonSettingsOfTheTreeAsWell)
+{
+    Session session;
+    session.open(1, 2);
+    const std::string text = session.full_diff();
+    EXPECT_TRUE(holds(text, "gpon network mac-age-time \"0\"\n"));
+    EXPECT_TRUE(holds(text, "gpon olt activation-period \"0\"\n"));
+}
+
+TEST(FullDiff, TheNextOperationSeesWhatHasChangedSince)
+{
+    Session session;
+    put(session.cfg->pon.ont[531].description, "kiosk");
+    session.cfg->pon.ont[531].exist = 1;
+    session.open();
+    EXPECT_TRUE(holds(session.full_diff(), "interface ont 8/19\ndescription \"kiosk\"\n"));
+    session.settle();
+    EXPECT_EQ(session.full_diff(), "");
+    put(session.cfg->pon.ont[531].description, "bakery");
+    EXPECT_EQ(taken(GetPonDiff(&session.orig->pon, &session.cfg->pon)),
+              "configure terminal\ninterface ont 8/19\ndescription \"bakery\"\n");
+}
+
 } // namespace

@@ -60,6 +60,10 @@ void name_first_identifier(Text& line, std::size_t first_mark, int id)
         named.append(family.before);
         named.append(value ? value : "");
         named.append(family.after);
+        if (named.failed()) {
+            line.fail();
+            return;
+        }
         // The blank behind the placeholder goes with it: the name brings its own.
         line.replace_front(std::min(prefix_size + 1, line.size()), named);
         return;
@@ -147,7 +151,7 @@ int generate_command_buf(char* command, int* ids, char* output, std::size_t size
     pondiff::Text line;
     line.append(command);
     pondiff::substitute(line, ids);
-    const std::size_t kept = std::min(line.size(), size - 1);
+    const std::size_t kept = line.failed() ? 0 : std::min(line.size(), size - 1);
     std::memcpy(output, line.data(), kept);
     output[kept] = '\0';
     return 0;

@@ -12,7 +12,7 @@ constexpr std::size_t most_digits = 20;
 struct DigitPairs {
     constexpr DigitPairs()
     {
-        for (int i = 0; i < 100; ++i) {
+        for (std::size_t i = 0; i < 100; ++i) {
             digits[2 * i] = static_cast<char>('0' + i / 10);
             digits[2 * i + 1] = static_cast<char>('0' + i % 10);
         }
@@ -77,7 +77,7 @@ bool Text::grow(std::size_t more)
         failed_ = true;
         return false;
     }
-    if (!old)
+    if (!old && size_ != 0)
         std::memcpy(bigger, data_, size_);
     data_ = bigger;
     capacity_ = wanted;

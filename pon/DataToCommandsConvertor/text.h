@@ -38,6 +38,8 @@ class Text {
     /// Puts `text` in place of the first `count` bytes.
     void replace_front(std::size_t count, const Text& text);
     void clear() { size_ = 0; }
+    /// Notes that a part of the text could not be had.
+    void fail() { failed_ = true; }
 
     char* data() { return data_; }
     const char* data() const { return data_; }

@@ -174,7 +174,7 @@ bool same_object(const view_data& entry, const int* key)
 void move_to(ViewId id, const int* key)
 {
     current_view.name = name_of(id);
-    std::memcpy(current_view.key, key, sizeof current_view.key);
+    std::memmove(current_view.key, key, sizeof current_view.key); // the key may be the view's own
 }
 
 /// How the object of a view is written. Names come from the old configuration where it has the object: there the
@@ -352,9 +352,14 @@ int goto_view_buf(const char* view, int* key, char* out)
     constexpr std::size_t capacity = 1024;
     if (!view || !key || !out)
         return -1;
+    const view_state before = current_view;
     pondiff::Text text;
     const int result = pondiff::goto_view(view, key, text);
-    if (text.size() != 0 && text.size() < capacity)
+    if (text.failed() || text.size() >= capacity) {
+        current_view = before;
+        return -1;
+    }
+    if (text.size() != 0)
         std::memcpy(out, text.c_str(), text.size() + 1);
     return result;
 }

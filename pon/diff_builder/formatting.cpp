@@ -70,7 +70,7 @@ void append_channel_format(Text& out, const char* text, std::size_t size)
 
 void Value::append_to(Text& out) const
 {
-    const auto* const bytes = static_cast<const std::uint8_t*>(bytes_);
+    const auto bytes = [this] { return static_cast<const std::uint8_t*>(bytes_); };
     switch (form_) {
     case Form::text:
         out.append(static_cast<const char*>(bytes_), size_);
@@ -100,19 +100,19 @@ void Value::append_to(Text& out) const
         append_channel_format(out, static_cast<const char*>(bytes_), size_);
         break;
     case Form::ipv4:
-        append_ipv4(out, bytes);
+        append_ipv4(out, bytes());
         break;
     case Form::ipv6:
         append_ipv6(out, bytes_);
         break;
     case Form::mac:
-        append_converted<mac_size>(out, convert_mac_bintostr, bytes);
+        append_converted<mac_size>(out, convert_mac_bintostr, bytes());
         break;
     case Form::serial:
-        append_converted<serial_size>(out, convert_sn_by_format, bytes);
+        append_converted<serial_size>(out, convert_sn_by_format, bytes());
         break;
     case Form::engine_id:
-        append_converted<engine_id_size>(out, convert_snmpengineid_bintostr, bytes);
+        append_converted<engine_id_size>(out, convert_snmpengineid_bintostr, bytes());
         break;
     }
 }

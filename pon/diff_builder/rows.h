@@ -135,16 +135,28 @@ struct RowData {
         constexpr Parts(const char* form)
         {
             for (; form && form[size] != '\0'; ++size) {
-                if (form[size] == '%')
+                if (form[size] == '%') {
+                    if (second != none)
+                        two_conversions_at_the_most();
                     (first == none ? first : second) = size;
-                if (form[size] == '$')
+                }
+                if (form[size] == '$') {
+                    if (mark != none)
+                        one_placeholder_at_the_most();
                     mark = size;
+                }
+                if (size == none - 1)
+                    too_long();
             }
         }
+        /// Not constant: a template that breaks the rule does not compile.
+        static void two_conversions_at_the_most() {}
+        static void one_placeholder_at_the_most() {}
+        static void too_long() {}
         static constexpr std::uint8_t none = 0xFF;
         std::uint8_t first = none; ///< where the first conversion stands, ...
         std::uint8_t second = none;
-        std::uint8_t mark = none; ///< where the placeholder stands; there is one at the most
+        std::uint8_t mark = none; ///< where the placeholder stands
         std::uint8_t size = 0;
     };
     const char* form;

@@ -88,7 +88,24 @@ TEST_F(TerminalVlan, EthertypeHasNoCommand)
 TEST_F(TerminalVlan, NameThatFillsItsArray)
 {
     put(diff.after.name, "sixteen-letters!");
+    diff.before.tag.ethertype = diff.after.tag.ethertype = 0x4141; // what stands behind the name
     EXPECT_EQ(diff.script(), "configure terminal\ngpon network terminal-vlan \"sixteen-letters!\"\n");
+}
+
+TEST_F(TerminalVlan, RemovedWhoseNameFillsItsArray)
+{
+    put(diff.before.name, "sixteen-letters!");
+    diff.before.tag.ethertype = 0x4141;
+    diff.after.exists = 0;
+    EXPECT_EQ(diff.elements(), Elements{"no gpon network terminal-vlan \"sixteen-letters!\""});
+}
+
+TEST_F(TerminalVlan, TagUnderANameThatFillsItsArray)
+{
+    put(diff.after.name, "sixteen-letters!");
+    diff.after.tag.ethertype = 0x4141;
+    diff.after.tag.vid = 7;
+    EXPECT_EQ(diff.script(), "configure terminal\ngpon network terminal-vlan \"sixteen-letters!\" vid \"7\"\n");
 }
 
 TEST_F(TerminalVlan, ForcedByTheCommonSettingsShowsTheTagButNotTheBareName)

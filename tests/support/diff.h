@@ -70,7 +70,7 @@ class Diff : public DiffRun {
     template <class Result>
     explicit Diff(Result (*function)(Record*, Record*, int*, List<char>&))
         : function_([function](void* lhs, void* rhs, int* key, List<char>& out) {
-              function(static_cast<Record*>(lhs), static_cast<Record*>(rhs), key, out);
+              EXPECT_EQ(function(static_cast<Record*>(lhs), static_cast<Record*>(rhs), key, out), 0);
           })
     {
     }
@@ -78,7 +78,7 @@ class Diff : public DiffRun {
     template <class Result, class Prefix>
     Diff(Result (*function)(Prefix, Record*, Record*, int*, List<char>&), const char* prefix)
         : function_([function, text = std::string(prefix)](void* lhs, void* rhs, int* key, List<char>& out) mutable {
-              function(text.data(), static_cast<Record*>(lhs), static_cast<Record*>(rhs), key, out);
+              EXPECT_EQ(function(text.data(), static_cast<Record*>(lhs), static_cast<Record*>(rhs), key, out), 0);
           })
     {
     }
