@@ -7,6 +7,7 @@ namespace pondiff::tool {
 enum ExitStatus {
     success = 0,        ///< of a diff: there is nothing to do
     script_written = 1, ///< of a diff: the configurations differ
+    found = 1,          ///< of a check: there are findings
     trouble = 2,        ///< what was asked could not be done
 };
 

@@ -209,9 +209,14 @@ FileError::FileError(const std::string& file, int error)
 {
 }
 
+std::string name_of_input(const std::string& file)
+{
+    return name_in_messages(file, "standard input");
+}
+
 std::unique_ptr<GCfg> read_configuration(const std::string& file)
 {
-    const std::string name = name_in_messages(file, "standard input");
+    const std::string name = name_of_input(file);
     const std::string content = read_content(file, name);
     auto record = std::make_unique<GCfg>();
     if (is_json(content))

@@ -18,6 +18,9 @@ struct FileError : std::runtime_error {
     FileError(const std::string& file, int error);
 };
 
+/// What messages call a file that is read.
+std::string name_of_input(const std::string& file);
+
 /// The configuration that a file holds, as a record or as a JSON document.
 ///
 /// The content decides, never the name. What begins with '{', blanks aside, is a document; what has the record's exact

@@ -1,4 +1,5 @@
 #include "gcfg/gcfg.h"
+#include "tool/commands/check.h"
 #include "tool/commands/diff.h"
 #include "tool/commands/pack.h"
 #include "tool/commands/show.h"
@@ -37,12 +38,15 @@ Where a file is named, - stands for standard input or output; a file of that
 name is ./-
 
 Exit status:
-  0  all went well; of "pondiff diff": there is nothing to do
-  1  of "pondiff diff": a script was written
+  0  all went well; of "pondiff diff": there is nothing to do; of "pondiff
+     check": nothing was found
+  1  of "pondiff diff": a script was written; of "pondiff check": something was
+     found
   2  trouble, told on standard error
 
 Examples:
   pondiff diff running.bin wanted.json
+  pondiff check wanted.json
   pondiff show running.bin > running.json
   pondiff pack running.json -o running.bin
 
@@ -105,6 +109,7 @@ int run(int argc, char** argv)
     program.require_subcommand(1);
     program.footer(details());
     add_diff(program, status);
+    add_check(program, status);
     add_pack(program, status);
     add_show(program, status);
     for (CLI::App* const command : program.get_subcommands({}))

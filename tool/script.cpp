@@ -1,8 +1,11 @@
 #include "tool/script.h"
 
+#include "tool/profiles.h"
+
 #include <algorithm>
 #include <cstring>
 #include <fmt/format.h>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -10,41 +13,39 @@ namespace pondiff::tool {
 
 namespace {
 
-template <class Profile, std::size_t Slots>
-void add_profile_views(std::vector<std::string>& lines, std::string_view command, const Profile (&profiles)[Slots])
+/// Lines of the configure view.
+struct KnownLines {
+    std::vector<std::string> into_views; ///< that lead into the view of an object that exists already
+    std::vector<std::string> of_names;   ///< that declare a name which is known already
+};
+
+std::string_view text_of(const char* field, std::size_t size)
 {
-    for (const Profile& profile : profiles) {
-        if (profile.exist == 0)
-            continue;
-        const std::string_view name{profile.name, strnlen(profile.name, sizeof profile.name)};
-        lines.push_back(fmt::format("{} \"{}\"\n", command, name));
-    }
+    return {field, strnlen(field, size)};
 }
 
-/// The lines that lead from the configure view into the view of an object that exists already.
-std::vector<std::string> lines_into_views(const GCfg& orig)
+KnownLines known_lines(const GCfg& orig)
 {
-    std::vector<std::string> lines;
-    lines.reserve(GCFG_GPON_PORTS + GCFG_ONTS);
+    KnownLines lines;
+    lines.into_views.reserve(GCFG_GPON_PORTS + GCFG_ONTS);
     for (int port = 0; port < GCFG_GPON_PORTS; ++port)
-        lines.push_back(fmt::format("interface gpon-port {:4}\n", port));
+        lines.into_views.push_back(fmt::format("interface gpon-port {:4}\n", port));
     for (int i = 0; i < GCFG_ONTS; ++i)
         if (orig.pon.ont[i].exist != 0)
-            lines.push_back(fmt::format("interface ont {}/{}\n", i / GCFG_ONTS_PER_PORT, i % GCFG_ONTS_PER_PORT));
-    const GPonProfilesOlt& olt = orig.pon.profiles_olt;
-    add_profile_views(lines, "profile vlan", olt.vlan);
-    add_profile_views(lines, "profile address-table", olt.address_table);
-    add_profile_views(lines, "profile pppoe-ia", olt.pppoe_ia);
-    add_profile_views(lines, "profile dhcp-ra", olt.dhcp_ra);
-    add_profile_views(lines, "profile dhcpv6-ra", olt.dhcpv6_ra);
-    const GPonProfilesOnt& ont = orig.pon.profiles_ont;
-    add_profile_views(lines, "profile shaping", ont.shaping);
-    add_profile_views(lines, "profile cross-connect", ont.cross_connect);
-    add_profile_views(lines, "profile dba", ont.alloc);
-    add_profile_views(lines, "profile ports", ont.ports);
-    add_profile_views(lines, "profile management", ont.management);
-    add_profile_views(lines, "template", ont.template_ont);
-    add_profile_views(lines, "profile voice", ont.voice);
+            lines.into_views.push_back(
+                fmt::format("interface ont {}/{}\n", i / GCFG_ONTS_PER_PORT, i % GCFG_ONTS_PER_PORT));
+    for (const ProfileKind& kind : profile_kinds)
+        for (int slot = 0; slot < kind.slots; ++slot)
+            if (kind.exists(orig, slot))
+                lines.into_views.push_back(fmt::format("{}{} \"{}\"\n",
+                                                       kind.reference == Reference::template_ont ? "" : "profile ",
+                                                       kind.name, kind.name_in(orig, slot)));
+    for (const GVlanTagEx& vlan : orig.pon.network.terminal_vlan) {
+        const std::string_view name = text_of(vlan.name, sizeof vlan.name);
+        // Behind a name with a quote in it the line could go on as another command.
+        if (vlan.exists != 0 && !name.empty() && name.find('"') == name.npos)
+            lines.of_names.push_back(fmt::format("gpon network terminal-vlan \"{}\"\n", name));
+    }
     return lines;
 }
 
@@ -57,25 +58,30 @@ bool take(std::string_view& script, std::string_view line)
     return true;
 }
 
+bool take_any(std::string_view& script, const std::vector<std::string>& lines)
+{
+    return std::any_of(lines.begin(), lines.end(), [&script](const std::string& line) { return take(script, line); });
+}
+
 } // namespace
 
 bool changes_nothing(std::string_view script, const GCfg& orig)
 {
     enum class View { root, configure, object };
     View view = View::root;
-    std::vector<std::string> into_views;
+    std::optional<KnownLines> known;
     while (!script.empty()) {
         if (view != View::root && take(script, "exit\n")) {
             view = view == View::object ? View::configure : View::root;
         } else if (view == View::root && take(script, "configure terminal\n")) {
             view = View::configure;
         } else if (view == View::configure) {
-            if (into_views.empty())
-                into_views = lines_into_views(orig);
-            if (std::none_of(into_views.begin(), into_views.end(),
-                             [&script](const std::string& line) { return take(script, line); }))
+            if (!known)
+                known = known_lines(orig);
+            if (take_any(script, known->into_views))
+                view = View::object;
+            else if (!take_any(script, known->of_names))
                 return false;
-            view = View::object;
         } else if (view == View::object || !take(script, "commit\n")) {
             return false;
         }

@@ -104,7 +104,8 @@ packages() {
         /usr/include/pondiff.h /usr/include/pondiff/platform.h /usr/include/gcfg/gcfg.h \
         /usr/include/pon/command_file_generator.h /usr/include/pon/diff_builder.h \
         /usr/include/pon/DataToCommandsConvertor.h /usr/include/pon/visibility.h
-    expect_package pondiff "libpondiff1 (= " /usr/bin/pondiff
+    expect_package pondiff "libpondiff1 (= " /usr/bin/pondiff /usr/share/man/man1/pondiff.1 \
+        /usr/share/bash-completion/completions/pondiff /usr/share/zsh/vendor-completions/_pondiff
 
     # What they hold is enough for the program to run.
     dpkg-deb -x libpondiff1_*.deb system

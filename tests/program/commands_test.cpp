@@ -200,8 +200,11 @@ TEST_F(CommandLine, Version)
 TEST_F(CommandLine, HelpTellsWhatEachCommandDoes)
 {
     const std::vector<std::pair<Arguments, std::vector<std::string>>> pages{
-        {{}, {"pondiff [OPTIONS] COMMAND", "diff ", "pack ", "show ", "1821429", "--version"}},
-        {{"diff"}, {"pondiff diff [OPTIONS] ORIG CFG", "--all", "--common N", "--verbatim", "-o,--output FILE"}},
+        {{}, {"pondiff [OPTIONS] COMMAND", "diff ", "check ", "pack ", "show ", "1821429", "--version"}},
+        {{"diff"},
+         {"pondiff diff [OPTIONS] ORIG CFG", "--all", "--common N", "--only AREA", "--strict", "--verbatim",
+          "-o,--output FILE"}},
+        {{"check"}, {"pondiff check [OPTIONS] FILE", "--strict"}},
         {{"pack"}, {"pondiff pack [OPTIONS] JSON", "-o,--output RECORD"}},
         {{"show"}, {"pondiff show [OPTIONS] RECORD", "--full", "-o,--output FILE"}},
     };
@@ -222,8 +225,8 @@ TEST_F(CommandLine, HelpTellsWhatEachCommandDoes)
 
 TEST_F(CommandLine, HelpFitsTheTerminal)
 {
-    for (const Arguments& arguments :
-         {Arguments{"--help"}, Arguments{"diff", "--help"}, Arguments{"pack", "--help"}, Arguments{"show", "--help"}}) {
+    for (const Arguments& arguments : {Arguments{"--help"}, Arguments{"diff", "--help"}, Arguments{"check", "--help"},
+                                       Arguments{"pack", "--help"}, Arguments{"show", "--help"}}) {
         const std::string help = run(arguments).out;
         for (std::size_t start = 0; start < help.size();) {
             const std::size_t end = std::min(help.find('\n', start), help.size());

@@ -2,6 +2,7 @@
 /// below with the reason why it is none.
 
 #include "pon/command_file_generator.h"
+#include "tests/support/plausible.h"
 #include "tool/describe/description.h"
 #include "tool/describe/records.h"
 #include "tool/script.h"
@@ -126,23 +127,6 @@ const Silent* silent(const std::string& path)
 bool is_revision(const Leaf& leaf)
 {
     return leaf.field.name == "revision";
-}
-
-/// A configuration in which everything exists under a name of its own, with every other field at `number`.
-std::unique_ptr<GCfg> plausible(int number)
-{
-    auto configuration = std::make_unique<GCfg>();
-    auto* const bytes = reinterpret_cast<unsigned char*>(configuration.get());
-    int serial = 0;
-    for_each_leaf(gcfg_record, [&](const Leaf& leaf) {
-        if (leaf.field.name == "exist" || leaf.field.name == "exists")
-            set_number(leaf.field, bytes + leaf.offset, 1);
-        else if (is_number(leaf.field.form))
-            set_number(leaf.field, bytes + leaf.offset, number);
-        else if (leaf.field.name == "name" && leaf.field.form == Form::text)
-            std::snprintf(reinterpret_cast<char*>(bytes + leaf.offset), leaf.field.width, "n%d", ++serial);
-    });
-    return configuration;
 }
 
 /// Both an ordinary value and the opposite of a flag.

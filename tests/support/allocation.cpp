@@ -4,28 +4,69 @@
 
 namespace {
 
-bool limited;
-int left;
+constexpr int never = INT_MAX;
+int asked;                 // since one of the guards began
+int first_failure = never; // allocations that give null, by their number: from this one ...
+int last_failure = never;  // ... to this one
 void (*observe)();
 
 bool granted()
 {
     if (observe)
         observe();
-    return !limited || left-- > 0;
+    ++asked;
+    return asked < first_failure || asked > last_failure;
+}
+
+void begin(int first, int last)
+{
+    asked = 0;
+    first_failure = first;
+    last_failure = last;
+}
+
+void end()
+{
+    first_failure = last_failure = never;
 }
 
 } // namespace
 
 LimitedAllocations::LimitedAllocations(int granted)
 {
-    left = granted;
-    limited = true;
+    begin(granted + 1, never);
 }
 
 LimitedAllocations::~LimitedAllocations()
 {
-    limited = false;
+    end();
+}
+
+FailingAllocation::FailingAllocation(int nth, Failing how) : nth_(nth)
+{
+    begin(nth, how == Failing::once ? nth : never);
+}
+
+FailingAllocation::~FailingAllocation()
+{
+    end();
+}
+
+bool FailingAllocation::happened() const
+{
+    return asked >= nth_;
+}
+
+CountedAllocations::CountedAllocations()
+{
+    begin(never, never);
+}
+
+CountedAllocations::~CountedAllocations() = default;
+
+int CountedAllocations::count() const
+{
+    return asked;
 }
 
 ObservedAllocations::ObservedAllocations(void (*observer)())

@@ -2,8 +2,11 @@
 #define TESTS_SUPPORT_ALLOCATION_H
 
 /// @file
-/// Allocations that fail on demand or are looked at. The test program is linked so that calls of malloc, calloc and
-/// realloc, the library's own among them, come here first.
+/// Allocations that fail on demand, are counted or looked at. The test program is linked so that calls of malloc,
+/// calloc and realloc, the library's own among them, come here first. Only one of these lives at a time, and for as
+/// long as the call that it is meant for: what the test itself allocates meanwhile counts too.
+
+#include <climits>
 
 /// While it lives, so many allocations are granted and every later one gives null.
 class LimitedAllocations {
@@ -12,6 +15,37 @@ class LimitedAllocations {
     ~LimitedAllocations();
     LimitedAllocations(const LimitedAllocations&) = delete;
     LimitedAllocations& operator=(const LimitedAllocations&) = delete;
+};
+
+enum class Failing {
+    once,         ///< one allocation alone
+    from_then_on, ///< and every later one
+};
+
+/// While it lives, the allocation `nth` (the first is 1) gives null.
+class FailingAllocation {
+  public:
+    FailingAllocation(int nth, Failing how);
+    ~FailingAllocation();
+    FailingAllocation(const FailingAllocation&) = delete;
+    FailingAllocation& operator=(const FailingAllocation&) = delete;
+
+    /// True when it came to that.
+    bool happened() const;
+
+  private:
+    int nth_;
+};
+
+/// Counts while it lives.
+class CountedAllocations {
+  public:
+    CountedAllocations();
+    ~CountedAllocations();
+    CountedAllocations(const CountedAllocations&) = delete;
+    CountedAllocations& operator=(const CountedAllocations&) = delete;
+
+    int count() const;
 };
 
 /// While it lives, every allocation calls the observer first: a way to look at what holds only during a call.

@@ -1,6 +1,8 @@
 #include "tool/commands/diff.h"
 
 #include "pon/command_file_generator.h"
+#include "tool/areas.h"
+#include "tool/check.h"
 #include "tool/describe/description.h"
 #include "tool/exit_status.h"
 #include "tool/files.h"
@@ -12,26 +14,42 @@
 #include <fmt/format.h>
 #include <memory>
 #include <new>
+#include <optional>
 #include <string>
+#include <vector>
 
 namespace pondiff::tool {
 
 namespace {
 
-constexpr char details[] =
-    R"(Prints the script that takes a device from the configuration ORIG, which it
+std::string details()
+{
+    return R"(Prints the script that takes a device from the configuration ORIG, which it
 runs, to the configuration CFG, which is wanted: CLI commands, one per line,
 from the top level of the CLI back to it, closed by "commit".
 
 A script that would change nothing is not printed. That is one of nothing but
 moves from view to view: "configure terminal", "exit", the line that enters the
-view of a port, an ONT or a profile that ORIG holds, and "commit". Entering the
-view of an ONT or a profile that ORIG does not hold creates it, so that counts
-as a change.
+view of a port, an ONT or a profile that ORIG holds, the line that declares a
+terminal VLAN by a name that ORIG holds, and "commit". Entering the view of an
+ONT or a profile that ORIG does not hold creates it, so that counts as a change.
 
 Some fields have no command, or none in the scope asked for. When the script
 changes nothing although the configurations differ, one line on standard error
-tells how many fields do.
+tells how many fields do; with --only, those of the area are counted.
+
+Values go into the script as they are stored. One that no script can carry, such
+as a description with a quote in it, is told on standard error, by the path of
+its field in CFG, unless ORIG has the same there; with --all in any case.
+"pondiff check --help" tells which values those are.
+
+Areas that --only takes:
+)" + list_of_areas() +
+           R"(
+The script of an area begins at the top level. That of most areas ends there,
+closed by "commit"; "commit" is missing behind ont and port. The scripts of
+system, pon and terminal-vlans end in the view of their last command, without
+"exit" and "commit".
 
 With -o, FILE is replaced as a whole or, when anything fails, left as it was. It
 keeps its mode; a symbolic link stays and the file that it points to is
@@ -40,20 +58,25 @@ replaced. When nothing is to be printed, FILE is left alone, be it there or not.
 Exit status:
   0  there is nothing to do
   1  a script was written
-  2  trouble: an unreadable file, a mistake in a document, no room to write
+  2  trouble: an unreadable file, a mistake in a document, no room to write;
+     with --strict, a value that no script can carry
 
 Examples:
   pondiff diff running.bin wanted.json
-  pondiff diff --common 1 running.bin wanted.bin
+  pondiff diff --only ont:1/6 running.bin wanted.json
+  pondiff diff --strict --common 1 running.bin wanted.bin
   pondiff diff -o change.cli running.bin - < wanted.json
   pondiff diff --all --common 2 running.bin wanted.bin > full.cli)";
+}
 
 struct Arguments {
     std::string orig;
     std::string cfg;
     std::string output = standard_stream;
+    std::optional<std::string> only;
     int common = 0;
     bool all = false;
+    bool strict = false;
     bool verbatim = false;
 };
 
@@ -69,38 +92,66 @@ class Session {
     Session& operator=(const Session&) = delete;
 };
 
-/// Runs the library's operation on the scope that the arguments select: so far always the whole configuration. What
-/// surrounds this function, from the files to the exit status, holds for every scope.
-std::string script_of(GCfg& orig, GCfg& cfg, const Arguments& arguments)
+std::string script_of(const Area& area, GCfg& orig, GCfg& cfg, const Arguments& arguments)
 {
     const Session session{orig, cfg, arguments};
-    const std::unique_ptr<char, decltype(&std::free)> text{GetDiff(&orig, &cfg), &std::free};
+    const std::unique_ptr<char, decltype(&std::free)> text{area.script(orig, cfg), &std::free};
     if (!text)
         throw std::bad_alloc();
     return text.get();
 }
 
-void tell_of_silent_fields(const GCfg& orig, const GCfg& cfg)
+/// Tells of the values in an area that no script can carry; true when there are any.
+bool tell_of_findings(const Area& area, const GCfg& orig, const GCfg& cfg, const Arguments& arguments)
 {
-    const std::size_t count = count_differing_fields(orig, cfg);
+    bool any = false;
+    for (const Finding& finding : check_change(orig, cfg, arguments.all)) {
+        if (!overlaps(area.records, finding.offset, finding.size))
+            continue;
+        tell(fmt::format("{}: {}: {}", name_of_input(arguments.cfg), finding.path, finding.text));
+        any = true;
+    }
+    return any;
+}
+
+void tell_of_silent_fields(std::size_t count)
+{
     if (count == 1)
         tell("1 field differs without a command in this scope");
     else if (count != 0)
         tell(fmt::format("{} fields differ without a command in this scope", count));
 }
 
-ExitStatus run(const Arguments& arguments)
+ExitStatus run(const Area& area, const Arguments& arguments)
 {
     const std::unique_ptr<GCfg> orig = read_configuration(arguments.orig);
     const std::unique_ptr<GCfg> cfg = read_configuration(arguments.cfg);
-    const std::string script = script_of(*orig, *cfg, arguments);
+    if (tell_of_findings(area, *orig, *cfg, arguments) && arguments.strict) {
+        tell("no script is written: --strict");
+        return trouble;
+    }
+    const std::string script = script_of(area, *orig, *cfg, arguments);
     const bool nothing_to_do = changes_nothing(script, *orig);
     if (!nothing_to_do || (arguments.verbatim && !script.empty()))
         write_file(arguments.output, script);
     if (!nothing_to_do)
         return script_written;
-    tell_of_silent_fields(*orig, *cfg);
+    // With the common records alone, what differs elsewhere has no command in this scope either.
+    tell_of_silent_fields(!arguments.only ? count_differing_fields(*orig, *cfg)
+                                          : count_differing_fields(*orig, *cfg, area.records));
     return success;
+}
+
+Area chosen_area(const Arguments& arguments)
+{
+    if (!arguments.only)
+        return whole_configuration(arguments.common);
+    try {
+        return area_named(*arguments.only);
+    } catch (const UnknownArea& error) {
+        throw CLI::ParseError(fmt::format("--only {}: {}", *arguments.only, error.what()),
+                              CLI::ExitCodes::ValidationError);
+    }
 }
 
 } // namespace
@@ -126,16 +177,25 @@ void add_diff(CLI::App& program, int& status)
                     "default relay profiles. Other numbers mean what 0, the\n"
                     "default, does: the whole tree")
         ->option_text("N");
+    command
+        .add_option("--only", arguments->only,
+                    "Compare one area alone: a part of the configuration, an\n"
+                    "ONT, a profile, a block of settings; they are listed below.\n"
+                    "With it, --common matters only to what --all renders")
+        ->option_text("AREA");
+    command.add_flag("--strict", arguments->strict,
+                     "Write no script when CFG has a value that no script can\n"
+                     "carry; the exit status is then 2");
     command.add_flag("--verbatim", arguments->verbatim,
                      "Print the script even when it would change nothing; the\n"
                      "exit status stays 0");
     command.add_option("-o,--output", arguments->output, "Write the script to FILE instead of standard output")
         ->option_text("FILE");
-    command.footer(details);
+    command.footer(details());
     command.callback([arguments, &status] {
         if (arguments->orig == standard_stream && arguments->cfg == standard_stream)
             throw CLI::ParseError("only one of ORIG and CFG can be standard input", CLI::ExitCodes::ValidationError);
-        status = run(*arguments);
+        status = run(chosen_area(*arguments), *arguments);
     });
 }
 

@@ -2,6 +2,8 @@
 
 #include "tool/describe/records.h"
 
+#include <algorithm>
+
 namespace pondiff::tool {
 
 namespace {
@@ -50,10 +52,24 @@ std::string Path::text() const
     return result;
 }
 
-std::size_t count_differing_fields(const GCfg& a, const GCfg& b)
+bool overlaps(const Ranges& ranges, std::size_t offset, std::size_t size)
 {
+    return std::any_of(ranges.begin(), ranges.end(), [=](const Range& range) {
+        return offset < range.offset + range.size && range.offset < offset + size;
+    });
+}
+
+std::size_t count_differing_fields(const GCfg& a, const GCfg& b, const Ranges& ranges)
+{
+    const auto* const left = reinterpret_cast<const unsigned char*>(&a);
+    const auto* const right = reinterpret_cast<const unsigned char*>(&b);
     std::size_t count = 0;
-    for_each_difference(gcfg_record, &a, &b, [&count](const Leaf&) { count++; });
+    for_each_leaf(
+        gcfg_record,
+        [&](std::size_t offset, std::size_t size) {
+            return overlaps(ranges, offset, size) && std::memcmp(left + offset, right + offset, size) != 0;
+        },
+        [&count](const Leaf&) { count++; });
     return count;
 }
 

@@ -77,6 +77,7 @@ struct Field {
     std::uint16_t count;
     bool array;
     bool is_signed;
+    bool silent; ///< a text that no command shows
     Form form;
     Layout layout;
     Reference reference;
@@ -198,8 +199,18 @@ void for_each_difference(const Record& record, const void* a, const void* b, Vis
         visit);
 }
 
-/// How many leaves differ.
-std::size_t count_differing_fields(const GCfg& a, const GCfg& b);
+/// A part of a configuration: a record, or several that follow one another.
+struct Range {
+    std::size_t offset;
+    std::size_t size;
+};
+using Ranges = std::vector<Range>;
+
+/// Whether the part from `offset` on has anything in common with the ranges.
+bool overlaps(const Ranges& ranges, std::size_t offset, std::size_t size);
+
+/// How many leaves in the ranges differ.
+std::size_t count_differing_fields(const GCfg& a, const GCfg& b, const Ranges& ranges = {{0, sizeof(GCfg)}});
 
 } // namespace pondiff::tool
 

@@ -161,6 +161,13 @@ constexpr Field secret(Member<Struct, char[N]> member)
     return single(member, Form::secret);
 }
 
+/// A text that no command shows: whatever it holds, a script is not concerned.
+constexpr Field silent(Field field)
+{
+    field.silent = true;
+    return field;
+}
+
 template <class Struct>
 constexpr Field ipv4(Member<Struct, GIPAddr_t> member)
 {

@@ -4,6 +4,7 @@
 #include "tool/json/forms.h"
 
 #include <algorithm>
+#include <cstring>
 #include <map>
 #include <utility>
 
@@ -13,6 +14,14 @@ namespace {
 
 /// The registry does not tell which values have words. Those of every enumeration lie below this one.
 constexpr int VALUES_ASKED = 1024;
+/// The registry is asked for 16 bits.
+constexpr std::int64_t LARGEST_VALUE = 0xFFFF;
+
+/// Whether the registry's answer is a word. Some answer with a word of their own for what they do not know.
+bool is_word(const char* answer, const char* unknown)
+{
+    return answer != nullptr && *answer != '\0' && (unknown == nullptr || std::strcmp(answer, unknown) != 0);
+}
 
 } // namespace
 
@@ -21,10 +30,7 @@ Words::Words(const char* type, std::int64_t largest, Lookup lookup)
     const char* const unknown = lookup("", 0);
     for (int value = 0; value < VALUES_ASKED && value <= largest; value++) {
         const char* const word = lookup(type, value);
-        if (word == nullptr || *word == '\0' || (unknown != nullptr && std::string_view(word) == unknown)) {
-            continue;
-        }
-        if (is_utf8(word) && find(word) == nullptr) {
+        if (is_word(word, unknown) && is_utf8(word) && find(word) == nullptr) {
             words_.push_back({value, word});
         }
     }
@@ -42,6 +48,12 @@ const Words::Word* Words::find(std::string_view word) const
     const auto found =
         std::find_if(words_.begin(), words_.end(), [word](const Word& known) { return known.word == word; });
     return found != words_.end() ? &*found : nullptr;
+}
+
+bool has_word(const Field& field, std::int64_t value)
+{
+    return value <= LARGEST_VALUE && is_word(gpon_enum_find_name_by_type(field.enumeration, static_cast<int>(value)),
+                                             gpon_enum_find_name_by_type("", 0));
 }
 
 const Words& words_of(const Field& field)

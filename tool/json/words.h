@@ -35,6 +35,9 @@ class Words {
     std::vector<Word> words_; // by ascending value
 };
 
+/// Whether the registry has a word for the value of a field of Form::enumeration; the same word may stand for others.
+bool has_word(const Field& field, std::int64_t value);
+
 /// The words for a field of Form::enumeration. The registry is asked once for each enumeration and width.
 const Words& words_of(const Field& field);
 

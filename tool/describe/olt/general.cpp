@@ -26,8 +26,8 @@ static constexpr Field l3_dhcp_fields[] = {
     boolean(AT(GPonOltGeneralL3DHCPCfg, exist)),
     boolean(AT(GPonOltGeneralL3DHCPCfg, relay_agent_enabled)),
     number(AT(GPonOltGeneralL3DHCPCfg, vid)),
-    text(AT(GPonOltGeneralL3DHCPCfg, circuit_id_format)),
-    text(AT(GPonOltGeneralL3DHCPCfg, remote_id_format)),
+    silent(text(AT(GPonOltGeneralL3DHCPCfg, circuit_id_format))),
+    silent(text(AT(GPonOltGeneralL3DHCPCfg, remote_id_format))),
     boolean(AT(GPonOltGeneralL3DHCPCfg, overwrite_client_option82)),
     boolean(AT(GPonOltGeneralL3DHCPCfg, dos_block_enabled)),
     number(AT(GPonOltGeneralL3DHCPCfg, bc_packet_per_second)),
@@ -41,8 +41,8 @@ DESCRIBE(GPonOltGeneralL3DHCPCfg, l3_dhcp_record, l3_dhcp_fields);
 
 static constexpr Field l3_pppoe_fields[] = {
     boolean(AT(GPonOltGeneralL3PPPoECfg, pppoe_plus_enabled)),
-    text(AT(GPonOltGeneralL3PPPoECfg, circuit_id_format)),
-    text(AT(GPonOltGeneralL3PPPoECfg, remote_id_format)),
+    silent(text(AT(GPonOltGeneralL3PPPoECfg, circuit_id_format))),
+    silent(text(AT(GPonOltGeneralL3PPPoECfg, remote_id_format))),
     hexadecimal(AT(GPonOltGeneralL3PPPoECfg, vendor_id)),
     number(AT(GPonOltGeneralL3PPPoECfg, max_number_pppoe_sessions)),
     number(AT(GPonOltGeneralL3PPPoECfg, max_number_pppoe_sessions_per_user)),

@@ -29,9 +29,9 @@ static constexpr Field snmp_fields[] = {
     record(AT(GSystemSnmpCfg, alias), alias_record, "aliases"),
     enumeration(AT(GSystemSnmpCfg, serialNum), "GOntSnDisplayFormatType_enum"),
     engine_id(AT(GSystemSnmpCfg, engineID)),
-    text(AT(GSystemSnmpCfg, pattern_cfg)),
-    secret(AT(GSystemSnmpCfg, private_cfg)),
-    text(AT(GSystemSnmpCfg, binary_cfg)),
+    silent(text(AT(GSystemSnmpCfg, pattern_cfg))),
+    silent(secret(AT(GSystemSnmpCfg, private_cfg))),
+    silent(text(AT(GSystemSnmpCfg, binary_cfg))),
 };
 DESCRIBE(GSystemSnmpCfg, snmp_record, snmp_fields);
 

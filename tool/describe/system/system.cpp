@@ -6,10 +6,10 @@ static constexpr Field acs_fields[] = {
     number(AT(GSystemAcsCfg, revision)),
     boolean(AT(GSystemAcsCfg, enabled)),
     number(AT(GSystemAcsCfg, port)),
-    text(AT(GSystemAcsCfg, path)),
-    text(AT(GSystemAcsCfg, scheme)),
-    text(AT(GSystemAcsCfg, login)),
-    secret(AT(GSystemAcsCfg, password)),
+    silent(text(AT(GSystemAcsCfg, path))),
+    silent(text(AT(GSystemAcsCfg, scheme))),
+    silent(text(AT(GSystemAcsCfg, login))),
+    silent(secret(AT(GSystemAcsCfg, password))),
     ipv4(AT(GSystemAcsCfg, external_fw_ip)),
     number(AT(GSystemAcsCfg, external_fw_port)),
     number(AT(GSystemAcsCfg, local_fw_port)),
@@ -25,7 +25,7 @@ static constexpr Field auth_server_fields[] = {
     ipv4(AT(GSystemAuthNetCfg, ip)),
     number(AT(GSystemAuthNetCfg, port)),
     number(AT(GSystemAuthNetCfg, timeout)),
-    secret(AT(GSystemAuthNetCfg, secret)),
+    silent(secret(AT(GSystemAuthNetCfg, secret))),
 };
 DESCRIBE(GSystemAuthNetCfg, auth_server_record, auth_server_fields);
 

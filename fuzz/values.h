@@ -1,0 +1,20 @@
+#ifndef FUZZ_VALUES_H
+#define FUZZ_VALUES_H
+
+#include "fuzz/random.h"
+#include "fuzz/scenario.h"
+
+#include <string>
+
+namespace pondiff::fuzz {
+
+/// A leaf of the configuration. Every field of a record is as likely as the others, however many elements it has; of
+/// the elements mostly those at the ends of the array.
+Place any_place(Random& random);
+
+/// Bytes for a leaf that mean something to its kind: edges of numbers and of tables, texts without an end, marks.
+std::string any_bytes(const tool::Field& field, Random& random);
+
+} // namespace pondiff::fuzz
+
+#endif

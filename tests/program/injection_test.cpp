@@ -1,0 +1,352 @@
+/// Every text field of every record, by its description, with every byte at its first, middle and last place and in a
+/// full array: what a value holds shows as it is, where the value stands and nowhere else.
+
+#include "pon/DataToCommandsConvertor.h"
+#include "pon/command_file_generator.h"
+#include "tests/support/plausible.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <cstring>
+#include <gtest/gtest.h>
+#include <set>
+#include <string>
+#include <vector>
+
+using namespace pondiff::tool;
+
+namespace {
+
+constexpr char mark = 'Q'; // stands for the byte; no command has it
+
+struct TextField {
+    std::string path;
+    std::size_t offset;
+    std::size_t width;
+    std::size_t record; ///< the record that holds it: where it begins ...
+    std::size_t record_size;
+    const Field* exists; ///< ... and its flag, if it has one
+    bool is_name;
+    bool is_silent;
+};
+
+bool is_text(const Field& field)
+{
+    return field.form == Form::text || field.form == Form::secret;
+}
+
+const Field* flag_of(const Record& record)
+{
+    const auto* const flag = std::find_if(record.begin(), record.end(), [](const Field& field) {
+        return field.name == "exist" || field.name == "exists";
+    });
+    return flag == record.end() ? nullptr : flag;
+}
+
+void collect(const Record& record, std::size_t offset, std::size_t element, Path& path, std::vector<TextField>& fields)
+{
+    for (const Field& field : record) {
+        const std::size_t index = std::min(element, field.count - std::size_t{1});
+        const std::size_t at = offset + field.offset + index * field.width;
+        path.push(field, index);
+        if (field.record != nullptr)
+            collect(*field.record, at, element, path, fields);
+        else if (is_text(field))
+            fields.push_back({path.text(), at, field.width, offset, record.size, flag_of(record),
+                              field.name == "name" && flag_of(record) != nullptr, field.silent});
+        path.pop();
+    }
+}
+
+/// One element of an array stands for all.
+std::vector<TextField> text_fields(std::size_t element)
+{
+    std::vector<TextField> fields;
+    Path path;
+    collect(gcfg_record, 0, element, path, fields);
+    return fields;
+}
+
+/// Those that name objects.
+std::vector<TextField> names(std::size_t element)
+{
+    std::vector<TextField> fields = text_fields(element);
+    fields.erase(std::remove_if(fields.begin(), fields.end(), [](const TextField& field) { return !field.is_name; }),
+                 fields.end());
+    return fields;
+}
+
+/// Behind the last element of the last array the configuration ends.
+constexpr std::size_t last_element = GCFG_SOURCE_GUARD_VLANS;
+/// Where every reference of `plausible(1)` leads.
+constexpr std::size_t referred_element = 1;
+
+bool begins(const std::string& text, const char* with)
+{
+    return text.compare(0, std::strlen(with), with) == 0;
+}
+
+std::size_t count(const std::string& text, char character)
+{
+    return static_cast<std::size_t>(std::count(text.begin(), text.end(), character));
+}
+
+std::string with_mark_as(char character, std::string text)
+{
+    std::replace(text.begin(), text.end(), mark, character);
+    return text;
+}
+
+template <std::size_t N>
+void collect_marks(char* const (&names)[N], std::vector<char*>& marks)
+{
+    for (char* const name : names)
+        for (char* at = name; at != nullptr && *at != '\0'; ++at)
+            if (*at == mark)
+                marks.push_back(at);
+}
+
+/// Where the mark stands in the names that the session has copied.
+std::vector<char*> marks_in_session()
+{
+    std::vector<char*> marks;
+    collect_marks(user2id_connection, marks);
+    collect_marks(terminalvlan2id_connection, marks);
+    collect_marks(management2id_connection, marks);
+    collect_marks(shaping2id_connection, marks);
+    collect_marks(ports2id_connection, marks);
+    collect_marks(voice2id_connection, marks);
+    collect_marks(cross_connect2id_connection, marks);
+    collect_marks(alloc2id_connection, marks);
+    collect_marks(onttemplate2id_connection, marks);
+    collect_marks(address_table2id_connection, marks);
+    collect_marks(dhcpra2id_connection, marks);
+    collect_marks(dhcpv6ra2id_connection, marks);
+    collect_marks(pppoeia2id_connection, marks);
+    collect_marks(vlan2id_connection, marks);
+    collect_marks(def_management2id_connection, marks);
+    collect_marks(def_shaping2id_connection, marks);
+    collect_marks(def_ports2id_connection, marks);
+    collect_marks(def_voice2id_connection, marks);
+    collect_marks(def_cross_connect2id_connection, marks);
+    collect_marks(def_alloc2id_connection, marks);
+    collect_marks(def_onttemplate2id_connection, marks);
+    collect_marks(def_address_table2id_connection, marks);
+    collect_marks(def_dhcpra2id_connection, marks);
+    collect_marks(def_dhcpv6ra2id_connection, marks);
+    collect_marks(def_pppoeia2id_connection, marks);
+    collect_marks(def_vlan2id_connection, marks);
+    return marks;
+}
+
+/// What becomes of the object whose text is looked at.
+enum class Change { changed, renamed, removed, added, referred_to };
+
+enum class Place { first, middle, last, full };
+
+class Injection : public testing::Test {
+  protected:
+    Injection()
+    {
+        for_each_leaf(gcfg_record, [this](const Leaf& leaf) {
+            for (std::size_t i = 0; is_text(leaf.field) && i < leaf.field.width; i++)
+                bytes(*equal)[leaf.offset + i] =
+                    i % 2 == 0 ? 'y' : 'z'; // without an end, so that reading on would show
+        });
+        *orig = *cfg = *equal;
+    }
+    ~Injection() override { finalize_diff(); }
+
+    static char* bytes(GCfg& configuration) { return reinterpret_cast<char*>(&configuration); }
+
+    /// The operation that shows the field's record and reads little else.
+    std::string script(const TextField& field)
+    {
+        struct Kind {
+            const char* path;
+            const char* word;
+        };
+        static constexpr Kind kinds[] = {
+            {"pon.profiles_olt.vlan.", "vlan"},
+            {"pon.profiles_olt.address_table.", "address-table"},
+            {"pon.profiles_olt.pppoe_ia.", "pppoe-ia"},
+            {"pon.profiles_olt.dhcp_ra.", "dhcp-ra"},
+            {"pon.profiles_olt.dhcpv6_ra.", "dhcpv6-ra"},
+            {"pon.profiles_ont.shaping.", "shaping"},
+            {"pon.profiles_ont.cross_connect.", "cross-connect"},
+            {"pon.profiles_ont.alloc.", "dba"},
+            {"pon.profiles_ont.ports.", "ports"},
+            {"pon.profiles_ont.management.", "management"},
+            {"pon.profiles_ont.template_ont.", "template"},
+            {"pon.profiles_ont.voice.", "voice"},
+        };
+        for (const Kind& kind : kinds) {
+            if (begins(field.path, kind.path)) {
+                char word[16];
+                std::strcpy(word, kind.word);
+                const int last = std::atoi(field.path.c_str() + std::strlen(kind.path));
+                return taken(GetProfileDiff(&orig->pon, &cfg->pon, word, last));
+            }
+        }
+        if (begins(field.path, "system.")) // stays in the view of the last command
+            return at_top_level(GetSystemDiff(&orig->system, &cfg->system));
+        if (begins(field.path, "pon.ont."))
+            return taken(GetGponOntDiff(&orig->pon.ont[GCFG_ONTS - 1], &cfg->pon.ont[GCFG_ONTS - 1], GCFG_ONTS - 1));
+        char network[] = "network";
+        char olt[] = "olt";
+        return taken(GetBlockDiff(orig.get(), cfg.get(), begins(field.path, "pon.network.") ? network : olt));
+    }
+
+    std::string full_script() { return taken(GetDiff(orig.get(), cfg.get())); }
+
+    /// A session in which the record of the field differs in all that it holds, and nothing else does.
+    void prepare(const TextField& field, Change change, Place place);
+    /// Puts the byte wherever the mark is.
+    void put(char byte)
+    {
+        for (char* const at : marks)
+            *at = byte;
+    }
+    void differ_in_references();
+    /// Checks the script of every byte in the place.
+    void inject(const TextField& field, Change change, Place place);
+
+    const std::unique_ptr<GCfg> blank = plausible(0);
+    const std::unique_ptr<GCfg> equal = plausible(1);
+    const std::unique_ptr<GCfg> orig{new GCfg};
+    const std::unique_ptr<GCfg> cfg{new GCfg};
+    std::vector<char*> marks;
+    std::set<std::string> shown; ///< the paths of fields that scripts have shown
+
+  private:
+    static std::string at_top_level(char* text)
+    {
+        std::string script = taken(text);
+        current_view = {"root", {}};
+        return script;
+    }
+
+    static std::string taken(char* text)
+    {
+        const std::string copy = text != nullptr ? text : "no text";
+        std::free(text);
+        return copy;
+    }
+};
+
+void Injection::prepare(const TextField& field, Change change, Place place)
+{
+    if (change == Change::referred_to)
+        differ_in_references();
+    else
+        std::memcpy(bytes(*orig) + field.record, bytes(*blank) + field.record, field.record_size);
+    if (change == Change::added || change == Change::removed) {
+        GCfg& without = change == Change::added ? *orig : *cfg;
+        set_number(*field.exists,
+                   reinterpret_cast<unsigned char*>(bytes(without)) + field.record + field.exists->offset, 0);
+    }
+    std::string value(field.width, place == Place::full ? mark : 'a');
+    if (place == Place::first)
+        value.front() = mark;
+    else if (place == Place::middle)
+        value[field.width / 2] = mark;
+    else if (place == Place::last)
+        value.back() = mark;
+    std::vector<GCfg*> patched;
+    if (change != Change::changed && change != Change::added)
+        patched.push_back(orig.get());
+    if (change != Change::renamed && change != Change::removed)
+        patched.push_back(cfg.get());
+    for (GCfg* const configuration : patched)
+        std::memcpy(bytes(*configuration) + field.offset, value.data(), field.width);
+    ASSERT_EQ(initiate_diff(orig.get(), cfg.get(), 0, 0), 0);
+    marks = marks_in_session();
+    for (GCfg* const configuration : patched)
+        for (std::size_t i = 0; i < field.width; i++)
+            if (value[i] == mark)
+                marks.push_back(bytes(*configuration) + field.offset + i);
+}
+
+/// The records that refer to others.
+void Injection::differ_in_references()
+{
+    GPonCfg& before = orig->pon;
+    before.olt = blank->pon.olt;
+    before.ont[GCFG_ONTS - 1] = blank->pon.ont[GCFG_ONTS - 1];
+    before.profiles_ont.template_ont[GCFG_ONT_PROFILES - 1] =
+        blank->pon.profiles_ont.template_ont[GCFG_ONT_PROFILES - 1];
+    constexpr int cross_connect = GCFG_CROSS_CONNECT_PROFILES - 1;
+    before.profiles_ont.cross_connect[cross_connect] = blank->pon.profiles_ont.cross_connect[cross_connect];
+    cfg->pon.profiles_ont.cross_connect[cross_connect].outer_vid = -101;
+    cfg->pon.profiles_ont.cross_connect[cross_connect].u_cos = 101;
+}
+
+void Injection::inject(const TextField& field, Change change, Place place)
+{
+    prepare(field, change, place);
+    const bool referred_to = change == Change::referred_to;
+    const auto show = [&] { return referred_to ? full_script() : script(field); };
+    const std::string marked = show();
+    const std::string marked_full = full_script();
+    if (count(marked, mark) != 0)
+        shown.insert(field.path);
+    put('a');
+    ASSERT_EQ(count(show(), mark), 0U) << "the mark shows the value alone";
+    for (std::size_t at = marked.find(mark); at != marked.npos; at = marked.find(mark, at)) {
+        const std::size_t behind = std::min(marked.find_first_not_of(mark, at), marked.size() - 1);
+        ASSERT_LE(behind - at, field.width) << marked;
+        ASSERT_TRUE(place < Place::last || std::strchr("\" \n", marked[behind]) != nullptr)
+            << "what stands behind the array is read: " << marked;
+        at = behind;
+    }
+    for (int byte = 1; byte < 256; byte++) {
+        const auto character = static_cast<char>(byte);
+        put(character);
+        const std::string text = show();
+        ASSERT_EQ(text, with_mark_as(character, marked)) << "byte " << byte;
+        ASSERT_EQ(count(text, '\n'), count(marked, '\n') + (byte == '\n' ? count(marked, mark) : 0));
+    }
+    put('\n');
+    ASSERT_EQ(full_script(), with_mark_as('\n', marked_full));
+    *orig = *cfg = *equal;
+}
+
+} // namespace
+
+TEST_F(Injection, ATextShowsAsItIs)
+{
+    const std::vector<TextField> fields = text_fields(last_element);
+    for (const TextField& field : fields) {
+        for (const Place place : {Place::first, Place::middle, Place::last, Place::full}) {
+            SCOPED_TRACE(field.path + ", place " + std::to_string(static_cast<int>(place)));
+            ASSERT_NO_FATAL_FAILURE(inject(field, Change::changed, place));
+        }
+    }
+    for (const TextField& field : fields)
+        EXPECT_NE(shown.count(field.path) != 0, field.is_silent) << field.path;
+}
+
+TEST_F(Injection, TheNameOfWhatComesGoesOrChangesShowsAsItIs)
+{
+    for (const TextField& field : names(last_element)) {
+        for (const Change change : {Change::renamed, Change::removed, Change::added}) {
+            for (const Place place : {Place::first, Place::middle, Place::last, Place::full}) {
+                SCOPED_TRACE(field.path + ", change " + std::to_string(static_cast<int>(change)) + ", place " +
+                             std::to_string(static_cast<int>(place)));
+                ASSERT_NO_FATAL_FAILURE(inject(field, change, place));
+            }
+        }
+    }
+}
+
+TEST_F(Injection, TheNameOfWhatIsReferredToShowsAsItIs)
+{
+    for (const TextField& field : names(referred_element)) {
+        for (const Place place : {Place::first, Place::middle, Place::last, Place::full}) {
+            SCOPED_TRACE(field.path + ", place " + std::to_string(static_cast<int>(place)));
+            ASSERT_NO_FATAL_FAILURE(inject(field, Change::referred_to, place));
+        }
+    }
+    for (const TextField& field : names(referred_element))
+        EXPECT_EQ(shown.count(field.path) != 0, !begins(field.path, "system.user.")) << field.path;
+}

@@ -1,0 +1,22 @@
+#ifndef TESTS_SUPPORT_RECORD_DIFFS_H
+#define TESTS_SUPPORT_RECORD_DIFFS_H
+
+/// @file
+/// Every exported record diff by its name, on its record in two configurations: the element 1 of each array.
+
+#include "pon/command_file_generator.h"
+
+#include <vector>
+
+struct RecordDiff {
+    const char* name;
+    void (*run)(GCfg& orig, GCfg& cfg, int* key, List<char>& out);
+};
+
+const std::vector<RecordDiff>& record_diffs();
+
+/// A configuration whose every byte is the letter a, so that each field differs from a blank one, texts fill their
+/// arrays and references lead nowhere; of each array of objects only the first so many elements, all of them existing.
+void fill(GCfg& configuration, int objects);
+
+#endif

@@ -1,0 +1,280 @@
+#include "tool/areas.h"
+
+#include "pon/command_file_generator.h"
+#include "tool/json/forms.h"
+#include "tool/json/store.h"
+#include "tool/profiles.h"
+
+#include <fmt/format.h>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+namespace pondiff::tool {
+
+namespace {
+
+#define RECORDS(path)                                                                                                  \
+    Range                                                                                                              \
+    {                                                                                                                  \
+        offsetof(GCfg, path), sizeof(GCfg::path)                                                                       \
+    }
+
+/// A block of settings and the records that it shows.
+struct Block {
+    const char* name;
+    Ranges records;
+};
+
+const Block blocks[] = {
+    {"olt", {RECORDS(pon.olt.general)}},
+    {"network", {RECORDS(pon.network)}},
+    {"backup", {RECORDS(system.services.tftp)}},
+    {"cli", {RECORDS(system.services.cli)}},
+    {"config", {RECORDS(system.services.config)}},
+    {"management", {RECORDS(system.network)}},
+    {"ntp", {RECORDS(system.services.ntp)}},
+    {"snmp", {RECORDS(system.services.snmp)}},
+    {"ssh", {RECORDS(system.services.ssh)}},
+    {"source_guard", {RECORDS(system.services.source_guard)}},
+    {"telnet", {RECORDS(system.services.telnet)}},
+    {"logging", {RECORDS(system.services.syslog), RECORDS(system.services.log)}},
+    {"user", {RECORDS(system.user)}},
+    {"route", {RECORDS(system.services.routing)}},
+};
+
+/// The names of the elements of a table.
+template <class Table>
+std::vector<std::string_view> names_of(const Table& table)
+{
+    std::vector<std::string_view> names;
+    for (const auto& entry : table)
+        names.emplace_back(entry.name);
+    return names;
+}
+
+/// "a, b and c"
+std::string enumerated(const std::vector<std::string_view>& names)
+{
+    return fmt::format("{} and {}", fmt::join(names.begin(), names.end() - 1, ", "), names.back());
+}
+
+/// The number of a slot, if `digits` is one.
+std::optional<int> slot_number(std::string_view digits, int slots)
+{
+    std::uint64_t number = 0;
+    if (!parse_decimal(digits, number) || number >= static_cast<std::uint64_t>(slots))
+        return std::nullopt;
+    return static_cast<int>(number);
+}
+
+/// The index of an ONT, written as itself or as port/id.
+std::optional<int> ont_index(std::string_view text)
+{
+    const std::size_t slash = text.find('/');
+    if (slash == text.npos)
+        return slot_number(text, GCFG_ONTS);
+    const std::optional<int> port = slot_number(text.substr(0, slash), GCFG_ONTS);
+    const std::optional<int> id = slot_number(text.substr(slash + 1), GCFG_ONTS_PER_PORT);
+    if (!port || !id || *port * GCFG_ONTS_PER_PORT + *id >= GCFG_ONTS)
+        return std::nullopt;
+    return *port * GCFG_ONTS_PER_PORT + *id;
+}
+
+/// One element of an array.
+Range element_of(const Range& array, int slots, int slot)
+{
+    const std::size_t size = array.size / static_cast<std::size_t>(slots);
+    return {array.offset + static_cast<std::size_t>(slot) * size, size};
+}
+
+Area system_part(std::string_view /*argument*/)
+{
+    return {{RECORDS(system)}, [](GCfg& orig, GCfg& cfg) { return GetSystemDiff(&orig.system, &cfg.system); }};
+}
+
+Area pon_part(std::string_view /*argument*/)
+{
+    return {{RECORDS(pon)}, [](GCfg& orig, GCfg& cfg) { return GetPonDiff(&orig.pon, &cfg.pon); }};
+}
+
+Area ont(std::string_view argument)
+{
+    const std::optional<int> index = ont_index(argument);
+    if (!index)
+        throw UnknownArea(fmt::format("no such ONT; there are 0 to {}, also written 0/0 to {}/{}", GCFG_ONTS - 1,
+                                      (GCFG_ONTS - 1) / GCFG_ONTS_PER_PORT, (GCFG_ONTS - 1) % GCFG_ONTS_PER_PORT));
+    return {{element_of(RECORDS(pon.ont), GCFG_ONTS, *index)},
+            [i = *index](GCfg& orig, GCfg& cfg) { return GetGponOntDiff(&orig.pon.ont[i], &cfg.pon.ont[i], i); }};
+}
+
+Area port(std::string_view argument)
+{
+    const std::optional<int> number = slot_number(argument, GCFG_GPON_PORTS);
+    if (!number)
+        throw UnknownArea(fmt::format("no such GPON port; there are 0 to {}", GCFG_GPON_PORTS - 1));
+    return {{element_of(RECORDS(pon.olt.channel), GCFG_GPON_PORTS, *number)}, [i = *number](GCfg& orig, GCfg& cfg) {
+                return GetGponChannelDiff(&orig.pon.olt.channel[i], &cfg.pon.olt.channel[i], i);
+            }};
+}
+
+Area profiles_olt(std::string_view /*argument*/)
+{
+    return {{RECORDS(pon.profiles_olt)}, [](GCfg& orig, GCfg& cfg) {
+                return GetGPonProfilesOltDiff(&orig.pon.profiles_olt, &cfg.pon.profiles_olt);
+            }};
+}
+
+Area profiles_ont(std::string_view /*argument*/)
+{
+    return {{RECORDS(pon.profiles_ont)}, [](GCfg& orig, GCfg& cfg) {
+                return GetGPonProfilesOntDiff(&orig.pon.profiles_ont, &cfg.pon.profiles_ont);
+            }};
+}
+
+/// The profiles of a kind, or the one in a slot.
+Area profile(std::string_view argument)
+{
+    const std::size_t colon = argument.find(':');
+    const std::string_view name = argument.substr(0, colon);
+    for (const ProfileKind& kind : profile_kinds) {
+        if (kind.name != name)
+            continue;
+        Range records{kind.offset, static_cast<std::size_t>(kind.slots) * kind.size};
+        int id = -1;
+        if (colon != argument.npos) {
+            const std::optional<int> slot = slot_number(argument.substr(colon + 1), kind.slots);
+            if (!slot)
+                throw UnknownArea(fmt::format("no such {}; there are 0 to {}", kind.called, kind.slots - 1));
+            id = *slot;
+            records = element_of(records, kind.slots, id);
+        }
+        return {{records}, [id, text = std::string(name)](GCfg& orig, GCfg& cfg) mutable {
+                    return GetProfileDiff(&orig.pon, &cfg.pon, text.data(), id);
+                }};
+    }
+    const std::vector<std::string_view> names = names_of(profile_kinds);
+    throw UnknownArea(
+        fmt::format("no such kind of profile{}; there are {}", suggestion(name, names), enumerated(names)));
+}
+
+Area block(std::string_view argument)
+{
+    for (const Block& known : blocks)
+        if (known.name == argument)
+            return {known.records, [text = std::string(argument)](GCfg& orig, GCfg& cfg) mutable {
+                        return GetBlockDiff(&orig, &cfg, text.data());
+                    }};
+    const std::vector<std::string_view> names = names_of(blocks);
+    throw UnknownArea(fmt::format("no such block{}; there are {}", suggestion(argument, names), enumerated(names)));
+}
+
+Area alarm(std::string_view /*argument*/)
+{
+    return {{RECORDS(system.services.alarm)}, [](GCfg& orig, GCfg& cfg) { return GetAlarmDiff(&orig, &cfg); }};
+}
+
+Area routes(std::string_view /*argument*/)
+{
+    return {{RECORDS(system.services.routing)}, [](GCfg& orig, GCfg& cfg) {
+                return GetRoutesDiffMemSafe(&orig.system.services.routing, &cfg.system.services.routing, nullptr);
+            }};
+}
+
+Area terminal_vlans(std::string_view /*argument*/)
+{
+    return {{RECORDS(pon.network.terminal_vlan)},
+            [](GCfg& /*orig*/, GCfg& /*cfg*/) { return GetTerminalVlanHeaders(); }};
+}
+
+/// A row of the list below: an area by its name, or a family of them, whose members an argument tells apart.
+struct Family {
+    const char* name;
+    const char* argument; ///< what stands behind a colon; null where there is none
+    const char* shows;
+    Area (*area)(std::string_view argument);
+};
+
+constexpr Family families[] = {
+    {"system", nullptr, "The system part", system_part},
+    {"pon", nullptr, "The PON part: network, profiles, OLT, ports and ONTs", pon_part},
+    {"ont", "INDEX", "One ONT, 0 to 531; ont:1/6, port and id, is ont:70", ont},
+    {"port", "N", "One GPON port, 0 to 7", port},
+    {"profiles-olt", nullptr, "The OLT profiles", profiles_olt},
+    {"profiles-ont", nullptr, "The ONT profiles and the templates", profiles_ont},
+    {"profile", "KIND", "The profiles of a kind that differ", profile},
+    {"profile", "KIND:ID", "The profile of a kind in the slot ID", profile},
+    {"block", "NAME", "A block of settings", block},
+    {"alarm", nullptr, "The alarms", alarm},
+    {"routes", nullptr, "The static routes, which the whole diff leaves out", routes},
+    {"terminal-vlans", nullptr, "A line that declares each terminal VLAN of CFG by name", terminal_vlans},
+};
+
+std::string written(const Family& family)
+{
+    return family.argument ? fmt::format("{}:{}", family.name, family.argument) : family.name;
+}
+
+std::string list_of_families()
+{
+    std::vector<std::string> names;
+    for (const Family& family : families)
+        names.push_back(written(family));
+    return enumerated({names.begin(), names.end()});
+}
+
+/// The names in lines of a manual page, indented.
+std::string wrapped(const std::vector<std::string_view>& names)
+{
+    constexpr std::size_t width = 80;
+    std::string text;
+    std::size_t column = width;
+    for (const std::string_view name : names) {
+        const bool last = name == names.back();
+        if (column + 1 + name.size() + (last ? 0 : 1) > width) {
+            text += text.empty() ? "    " : "\n    ";
+            column = 4;
+        } else {
+            text += ' ';
+            ++column;
+        }
+        text += fmt::format("{}{}", name, last ? "" : ",");
+        column += name.size() + 1;
+    }
+    return text;
+}
+
+} // namespace
+
+Area whole_configuration(int common)
+{
+    Area area{{{0, sizeof(GCfg)}}, [](GCfg& orig, GCfg& cfg) { return GetDiff(&orig, &cfg); }};
+    if (common == 1)
+        area.records = {RECORDS(system.services.cli), RECORDS(system.services.alarm),
+                        RECORDS(system.settings),     RECORDS(pon.network),
+                        RECORDS(pon.olt.general),     RECORDS(system.services.source_guard)};
+    return area;
+}
+
+Area area_named(const std::string& name)
+{
+    const std::size_t colon = name.find(':');
+    const std::string_view family_name = std::string_view(name).substr(0, colon);
+    const std::string_view argument = colon == name.npos ? "" : std::string_view(name).substr(colon + 1);
+    for (const Family& family : families)
+        if (family.name == family_name && (family.argument || colon == name.npos))
+            return family.area(argument);
+    throw UnknownArea(
+        fmt::format("no such area{}; there are {}", suggestion(family_name, names_of(families)), list_of_families()));
+}
+
+std::string list_of_areas()
+{
+    std::string text;
+    for (const Family& family : families)
+        text += fmt::format("  {:<15}  {}\n", written(family), family.shows);
+    return text + fmt::format("\nKinds of profiles:\n{}\n\nBlocks of settings:\n{}\n", wrapped(names_of(profile_kinds)),
+                              wrapped(names_of(blocks)));
+}
+
+} // namespace pondiff::tool

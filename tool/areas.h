@@ -1,0 +1,36 @@
+#ifndef TOOL_AREAS_H
+#define TOOL_AREAS_H
+
+#include "tool/describe/description.h"
+
+#include <functional>
+#include <stdexcept>
+#include <string>
+
+namespace pondiff::tool {
+
+/// A part of the configuration that can be compared by itself.
+struct Area {
+    Ranges records;                            ///< what it shows
+    std::function<char*(GCfg&, GCfg&)> script; ///< the library's operation, for the records of the session
+};
+
+/// A name that no area has; the message lists those that there are.
+struct UnknownArea : std::runtime_error {
+    using std::runtime_error::runtime_error;
+};
+
+/// The whole configuration.
+/// @param common  as for `initiate_diff`: at 1 the common records alone
+Area whole_configuration(int common);
+
+/// The area of a name such as "system", "ont:1/6" or "profile:vlan:3".
+/// @throws UnknownArea
+Area area_named(const std::string& name);
+
+/// The names of the areas and what they show, for a manual page: a line each, indented.
+std::string list_of_areas();
+
+} // namespace pondiff::tool
+
+#endif
