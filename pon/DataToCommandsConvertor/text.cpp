@@ -64,21 +64,21 @@ std::size_t put_decimal(char* out, std::int64_t value)
 
 Text::~Text()
 {
-    if (data_ != inline_ && data_ != borrowed_)
+    if (on_heap_)
         std::free(data_);
 }
 
 bool Text::grow(std::size_t more)
 {
     const std::size_t wanted = (size_ + more + 1) * 2;
-    char* const old = data_ == inline_ || data_ == borrowed_ ? nullptr : data_;
-    auto* const bigger = static_cast<char*>(std::realloc(old, wanted));
+    auto* const bigger = static_cast<char*>(std::realloc(on_heap_ ? data_ : nullptr, wanted));
     if (!bigger) {
         failed_ = true;
         return false;
     }
-    if (!old && size_ != 0)
+    if (!on_heap_)
         std::memcpy(bigger, data_, size_);
+    on_heap_ = true;
     data_ = bigger;
     capacity_ = wanted;
     return true;

@@ -18,7 +18,7 @@ class Text {
   public:
     Text() = default;
     /// Begins in memory of the caller, who finds out by `data` whether the text is still there.
-    Text(char* memory, std::size_t capacity) : data_(memory), capacity_(capacity), borrowed_(memory) {}
+    Text(char* memory, std::size_t capacity) : data_(memory), capacity_(capacity) {}
     ~Text();
     Text(const Text&) = delete;
     Text& operator=(const Text&) = delete;
@@ -60,7 +60,7 @@ class Text {
     std::size_t size_ = 0;
     std::size_t capacity_ = inline_capacity; // one byte of it is kept for the terminator
     bool failed_ = false;
-    const char* borrowed_ = nullptr;
+    bool on_heap_ = false;
 };
 
 } // namespace pondiff
