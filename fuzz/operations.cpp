@@ -1,6 +1,7 @@
 #include "fuzz/operations.h"
 
 #include "fuzz/checks.h"
+#include "pon/DataToCommandsConvertor.h"
 #include "pon/command_file_generator.h"
 
 #include <algorithm>
@@ -175,6 +176,24 @@ Texts run(const char* name, GCfg* orig, GCfg* cfg)
     Call call;
     call.operation = find_operation(name);
     return run(call, orig, cfg);
+}
+
+void disturb(GCfg* orig, GCfg* cfg)
+{
+    initiate_diff(orig, cfg, 1, 2);
+    std::free(GetAlarmDiff(orig, cfg));
+    std::free(GetGponOntDiff(&orig->pon.ont[1], &cfg->pon.ont[1], 1));
+    std::free(GetTerminalVlanHeaders());
+    finalize_diff();
+    scramble(-1);
+}
+
+void scramble(int value)
+{
+    sn_format = value;
+    print_all = value;
+    print_common = value;
+    current_view = {nullptr, {value}};
 }
 
 } // namespace pondiff::fuzz

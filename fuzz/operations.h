@@ -35,6 +35,12 @@ Texts run(const Call& call, GCfg* orig, GCfg* cfg);
 /// Runs an operation that takes nothing but the two configurations.
 Texts run(const char* name, GCfg* orig, GCfg* cfg);
 
+/// What a session takes over from before it is opened would show in its texts: the same session is run behind a
+/// scrambled global state, ...
+void scramble(int value);
+/// ... and behind another session with other switches that ends in some view, and another state.
+void disturb(GCfg* orig, GCfg* cfg);
+
 } // namespace pondiff::fuzz
 
 #endif

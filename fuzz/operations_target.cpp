@@ -38,9 +38,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     Scenario scenario = parse_scenario({reinterpret_cast<const char*>(data), size});
     scenario.calls.resize(std::min(scenario.calls.size(), most_calls));
     even.patch(scenario.patches);
+    scramble(0);
     const std::vector<Texts> texts = texts_of(even, scenario);
     even.check_patches();
-    if (chosen(data, size, 4)) {
+    if (chosen(data, size, 8)) {
+        disturb(odd.orig(), odd.cfg());
         odd.patch(scenario.patches);
         check(texts_of(odd, scenario) == texts, "the texts hang on the records' addresses or on what went before");
         odd.check_patches();

@@ -52,9 +52,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const bool all_bytes = chosen(data, size, 64);
     const Scenario scenario = parse_scenario({reinterpret_cast<const char*>(data), size});
     even.patch(scenario.patches);
+    scramble(0);
     const std::string text = full_diff_of(even, scenario);
     // A sorted tunnel list need not stay as it is when it is sorted again: each script is made of fresh records.
-    if (chosen(data, size, 4)) {
+    if (chosen(data, size, 8)) {
+        disturb(odd.orig(), odd.cfg());
         odd.patch(scenario.patches);
         check(full_diff_of(odd, scenario) == text, "the text hangs on the records' addresses or on what went before");
         check_equal(even.cfg(), odd.cfg(), scenario);
