@@ -11,13 +11,13 @@ namespace pondiff::fuzz {
 
 namespace {
 
-void check_kept(const GCfg& configuration, bool full)
+void check_kept(const GCfg& configuration, bool full, bool twice)
 {
     static const auto again = std::make_unique<GCfg>();
     const std::string document = tool::write_json(configuration, full);
     tool::read_json(document, "written.json", *again);
     check(std::memcmp(again.get(), &configuration, sizeof(GCfg)) == 0, "a configuration is not kept:\n" + document);
-    check(tool::write_json(*again, full) == document, "a configuration has two documents:\n" + document);
+    check(!twice || tool::write_json(*again, full) == document, "a configuration has two documents:\n" + document);
 }
 
 } // namespace
@@ -32,10 +32,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const fuzz::Scenario scenario = fuzz::parse_scenario({reinterpret_cast<const char*>(data), size});
     for (const fuzz::Patch& patch : scenario.patches)
         std::memcpy(bytes + patch.place.offset, patch.bytes.data(), patch.bytes.size());
-    fuzz::check_kept(*configuration, false);
-    // With all its zeros the document has 16 MB.
-    if (fuzz::chosen(data, size, 4096))
-        fuzz::check_kept(*configuration, true);
+    fuzz::check_kept(*configuration, false, fuzz::chosen(data, size, 8));
+    // With all its zeros the document has 16 MB and takes seconds.
+    if (fuzz::chosen(data, size, 32768))
+        fuzz::check_kept(*configuration, true, true);
     for (const fuzz::Patch& patch : scenario.patches)
         std::memset(bytes + patch.place.offset, 0, patch.bytes.size());
     return 0;
