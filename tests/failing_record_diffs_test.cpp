@@ -105,8 +105,8 @@ class FailingRecordDiffs : public testing::Test {
 std::vector<int> chosen(int count)
 {
     const bool exhaustive = std::getenv("PONDIFF_FULL") != nullptr;
-    const int few = exhaustive ? 1500 : 40;
-    const int some = exhaustive ? 200 : 40;
+    const int few = exhaustive ? 1500 : 24;
+    const int some = exhaustive ? 200 : 24;
     std::vector<int> numbers;
     for (int nth = 1; nth <= count; nth += count <= few || nth < some / 2 ? 1 : 2 * (count / some) - 1)
         numbers.push_back(nth); // odd steps: texts and nodes by turns
