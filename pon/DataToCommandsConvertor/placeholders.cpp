@@ -12,7 +12,6 @@ namespace {
 
 constexpr char mark[] = "$ID";
 constexpr std::size_t mark_size = sizeof mark - 1;
-constexpr std::size_t identifier_width = 4;
 constexpr int key_slots = 10;
 
 template <int Slots>
@@ -121,14 +120,12 @@ void substitute(Text& line, const int* ids)
             done += mark_size;
             continue;
         }
-        Text identifier;
-        identifier.append_aligned(ids[slot]);
         done += identifier_width;
         if (done > line.size())
             line.append(" ", 1); // a mark at the very end: four characters are written all the same
         if (done > line.size())
             return;
-        std::memcpy(line.data() + done - identifier_width, identifier.data(), identifier_width);
+        put_identifier(line.data() + done - identifier_width, ids[slot]);
     }
 }
 

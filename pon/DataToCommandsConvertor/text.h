@@ -7,9 +7,17 @@
 
 namespace pondiff {
 
-/// Digits of a number as the printing conversions %u and %d write them; both return the count written (at most 20).
+/// Digits of a number as the printing conversions %u and %d write them, and the "%4d" of identifiers: right-aligned in
+/// four characters, wider values in full. All return the count written.
 std::size_t put_natural(char* out, std::uint64_t value);
 std::size_t put_decimal(char* out, std::int64_t value);
+std::size_t put_aligned(char* out, int value);
+/// Room that each of them needs; behind a narrow number, too, some of it may be written.
+constexpr std::size_t most_digits = 20;
+
+/// The first four characters of the last one: what fits in place of a placeholder.
+void put_identifier(char* out, int value);
+constexpr std::size_t identifier_width = 4;
 
 /// Scratch text being built. It lives on the stack and holds a command line of the usual length there; only what a
 /// caller's own long prefix or a foreign platform library's long word exceeds goes to the heap. When memory cannot be
@@ -23,17 +31,10 @@ class Text {
     Text(const Text&) = delete;
     Text& operator=(const Text&) = delete;
 
-    void append(const char* bytes, std::size_t size)
-    {
-        if (!has_room(size))
-            return;
-        std::memcpy(data_ + size_, bytes, size);
-        size_ += size;
-    }
+    void append(const char* bytes, std::size_t size);
     void append(const char* text) { append(text, std::strlen(text)); }
     void append_natural(std::uint64_t value);
     void append_decimal(std::int64_t value);
-    /// The "%4d" of identifiers: right-aligned in four characters, wider values in full.
     void append_aligned(int value);
     /// Puts `text` in place of the first `count` bytes.
     void replace_front(std::size_t count, const Text& text);

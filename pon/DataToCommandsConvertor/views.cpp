@@ -163,14 +163,6 @@ const char* standing_view()
     return current_view.name ? current_view.name : views[root].name;
 }
 
-bool same_object(const view_data& entry, const int* key)
-{
-    for (int i = 0; i < entry.id_count; ++i)
-        if (current_view.key[i] != key[i])
-            return false;
-    return true;
-}
-
 void move_to(ViewId id, const int* key)
 {
     current_view.name = name_of(id);
@@ -316,17 +308,12 @@ const view_data* registered_view(const char* name)
 {
     // Most views are asked for many times in a row, and an exact name matches no other entry.
     static const view_data* met_last = views;
-    if (std::strcmp(met_last->name, name) == 0)
+    if (met_last->name == name || std::strcmp(met_last->name, name) == 0)
         return met_last;
     for (const view_data& entry : views)
         if (prefix_match(entry.name, name))
             return met_last = &entry;
     return nullptr;
-}
-
-bool stands_in(const view_data& view, const int* key)
-{
-    return current_view.name == view.name && same_object(view, key);
 }
 
 int goto_view(const char* view, const int* key, Text& out)

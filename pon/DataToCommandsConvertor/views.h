@@ -1,6 +1,7 @@
 #ifndef PON_DATATOCOMMANDSCONVERTOR_VIEWS_H
 #define PON_DATATOCOMMANDSCONVERTOR_VIEWS_H
 
+#include "pon/DataToCommandsConvertor.h"
 #include "pon/DataToCommandsConvertor/text.h"
 
 #include <cstddef>
@@ -36,8 +37,20 @@ view2view view2view_row(std::size_t index);
 /// The registry's entry of a view; null when there is none.
 const view_data* registered_view(const char* name);
 
+/// True when `key` names the object that the script stands at, were its view `view`.
+inline bool same_object(const view_data& view, const int* key)
+{
+    for (int i = 0; i < view.id_count; ++i)
+        if (current_view.key[i] != key[i])
+            return false;
+    return true;
+}
+
 /// True when the script already stands in a view of the registry at the object `key`.
-bool stands_in(const view_data& view, const int* key);
+inline bool stands_in(const view_data& view, const int* key)
+{
+    return current_view.name == view.name && same_object(view, key);
+}
 
 /// `goto_view_buf` into a text of any length.
 int goto_view(const char* view, const int* key, Text& out);

@@ -116,20 +116,6 @@ void Script::append_line(const char* text, std::size_t size)
     text_[size_++] = '\n';
 }
 
-char* Script::room()
-{
-    constexpr std::size_t line = 1024; // no usual line is longer, its line feed included
-    return !failed_ && (capacity_ - size_ > line || grow(line)) ? text_ + size_ : nullptr;
-}
-
-void Script::take_line(std::size_t size)
-{
-    if (size == 0 || text_[size_] == '\n')
-        return;
-    size_ += size;
-    text_[size_++] = '\n';
-}
-
 char* Script::release()
 {
     if (failed_)

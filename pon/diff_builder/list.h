@@ -20,10 +20,20 @@ class Script {
     void append_line(const char* text, std::size_t size);
 
     /// Room behind the text in which a line may be built, so that it need not be copied there; null when there is none.
-    char* room();
+    char* room()
+    {
+        constexpr std::size_t line = 1024; // no usual line is longer, its line feed included
+        return !failed_ && (capacity_ - size_ > line || grow(line)) ? text_ + size_ : nullptr;
+    }
     std::size_t room_size() const { return capacity_ - size_; }
     /// Takes the line that has been built in the room.
-    void take_line(std::size_t size);
+    void take_line(std::size_t size)
+    {
+        if (size == 0 || text_[size_] == '\n')
+            return;
+        size_ += size;
+        text_[size_++] = '\n';
+    }
     bool empty() const { return size_ == 0; }
     bool failed() const { return failed_; }
     /// Hands over the text, on the heap and with its terminator; null when part of it was lost.

@@ -20,9 +20,8 @@ std::int64_t load_as(const char* field, bool is_signed)
 }
 
 /// A scalar of a packed record, read from wherever it stands.
-std::int64_t load(const void* record, const RowData& row)
+std::int64_t load(const char* field, const RowData& row)
 {
-    const char* const field = static_cast<const char*>(record) + row.offset;
     switch (row.size) {
     case 1:
         return load_as<std::uint8_t, std::int8_t>(field, row.is_signed);
@@ -39,17 +38,6 @@ bool is_scalar(const RowData& row)
 {
     return row.kind != RowData::Kind::text &&
            (row.kind != RowData::Kind::value || row.how <= Value::Form::ber_interval);
-}
-
-bool changed(const RowData& row, const void* lhs, const void* rhs)
-{
-    if (is_scalar(row)) {
-        const std::int64_t difference = load(lhs, row) ^ load(rhs, row);
-        const bool bits_count = row.kind == RowData::Kind::flag && row.detail != 0;
-        return (bits_count ? difference & row.detail : difference) != 0;
-    }
-    return std::memcmp(static_cast<const char*>(lhs) + row.offset, static_cast<const char*>(rhs) + row.offset,
-                       row.compared) != 0;
 }
 
 bool push_text(List<char>& out, const Text& text)
@@ -121,7 +109,7 @@ bool forced(Rule rule)
 bool navigate(const Where& where)
 {
     if (where.entry && stands_in(*where.entry, where.key))
-        return push(where.out, "", 0);
+        return Script::of(where.out) || push(where.out, "", 0); // a script has no use for empty elements
     const view_state before = current_view;
     Text text;
     goto_view(where.view, where.key, text);
@@ -148,15 +136,6 @@ bool append_values(List<char>& out, const char* form, const Value* values, std::
 
 namespace {
 
-/// Writes the identifier over a placeholder, in the four characters that it takes.
-void write_identifier(char* mark, const int* key)
-{
-    const int slot = mark[3] - '0';
-    Text identifier;
-    identifier.append_aligned(key[slot]);
-    std::memcpy(mark, identifier.data(), 4);
-}
-
 /// `emit` of a row's template, whose parts are known: up to the first conversion, between the two, and the rest.
 void emit_parts(const Where& where, const char* form, const RowData::Parts& parts, const Value* value)
 {
@@ -164,28 +143,31 @@ void emit_parts(const Where& where, const char* form, const RowData::Parts& part
     if (!navigate(where))
         return;
     Line line(where.out);
+    Text& text = line.text();
     std::size_t done = 0;
     std::uint8_t next = parts.first;
     std::size_t mark = parts.mark; // where the placeholder comes to stand
     bool values_hold_marks = false;
-    for (const Value* const filling : {where.lead, value}) {
-        if (!filling || next == none)
-            continue;
-        line.text().append(form + done, next - done);
-        const std::size_t before = line.text().size();
-        filling->append_to(line.text());
-        values_hold_marks = values_hold_marks || filling->may_hold_mark();
+    const auto fill = [&](const Value& filling) {
+        text.append(form + done, next - done);
+        const std::size_t before = text.size();
+        filling.append_to(text);
+        values_hold_marks = values_hold_marks || filling.may_hold_mark();
         done = next + 2U;
         if (next < parts.mark)
-            mark += line.text().size() - before - 2;
+            mark += text.size() - before - 2;
         next = parts.second;
-    }
-    line.text().append(form + done, parts.size - done);
+    };
+    if (where.lead && next != none)
+        fill(*where.lead);
+    if (value && next != none)
+        fill(*value);
+    text.append(form + done, parts.size - done);
     // Slot 0 may be shown as a name; every other placeholder of a template is a number in its own place.
     if (values_hold_marks || (parts.mark != none && form[parts.mark + 3] == '0'))
-        substitute(line.text(), where.key);
-    else if (parts.mark != none && !line.text().failed())
-        write_identifier(line.text().data() + mark, where.key);
+        substitute(text, where.key);
+    else if (parts.mark != none && !text.failed())
+        put_identifier(text.data() + mark, where.key[form[parts.mark + 3] - '0']);
     line.push();
 }
 
@@ -193,33 +175,35 @@ void emit_parts(const Where& where, const char* form, const RowData::Parts& part
 
 void emit_row(const RowData& row, bool force, const void* lhs, const void* rhs, const Where& where)
 {
-    if (!force && !changed(row, lhs, rhs))
+    const char* const before = static_cast<const char*>(lhs) + row.offset;
+    const char* const field = static_cast<const char*>(rhs) + row.offset;
+    const bool scalar = is_scalar(row);
+    const std::int64_t mask = row.kind == RowData::Kind::flag && row.detail != 0 ? row.detail : -1;
+    const std::int64_t number = scalar ? load(field, row) & mask : 0;
+    if (!force && (scalar ? number == (load(before, row) & mask) : std::memcmp(before, field, row.compared) == 0))
         return;
     const auto emit_value = [&](const Value& value) { emit_parts(where, row.form, row.parts, &value); };
-    const void* const field = static_cast<const char*>(rhs) + row.offset;
     switch (row.kind) {
-    case RowData::Kind::flag: {
-        const std::int64_t flag = load(rhs, row);
-        if ((row.detail != 0 ? flag & row.detail : flag) != 0)
+    case RowData::Kind::flag:
+        if (number != 0)
             emit_parts(where, row.form, row.parts, nullptr);
         else
             emit_parts(where, row.extra.text, row.extra_parts, nullptr);
         break;
-    }
     case RowData::Kind::value:
-        emit_value(is_scalar(row) ? Value::number(row.how, load(rhs, row), row.detail) : Value::bytes(row.how, field));
+        emit_value(scalar ? Value::number(row.how, number, row.detail) : Value::bytes(row.how, field));
         break;
     case RowData::Kind::text:
         emit_value(Value::text(field, row.size, row.how));
         break;
     case RowData::Kind::word:
-        emit_value(row.extra.name(static_cast<int>(load(rhs, row))));
+        emit_value(row.extra.name(static_cast<int>(number)));
         break;
     case RowData::Kind::enum_word:
-        emit_value(enum_word(row.extra.text, load(rhs, row)));
+        emit_value(enum_word(row.extra.text, number));
         break;
     case RowData::Kind::reference:
-        if (const char* const name = row.extra.name(static_cast<int>(load(rhs, row))))
+        if (const char* const name = row.extra.name(static_cast<int>(number)))
             emit_value(name);
         break;
     }
