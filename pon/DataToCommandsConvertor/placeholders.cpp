@@ -90,7 +90,7 @@ Slot read_slot(const char* at, const char* end, int& slot)
     return Slot::number;
 }
 
-char* find_mark(char* from, char* end)
+char* find_mark(char* from, const char* end)
 {
     while (static_cast<std::size_t>(end - from) >= mark_size) {
         from = static_cast<char*>(std::memchr(from, mark[0], static_cast<std::size_t>(end - from) - mark_size + 1));
