@@ -116,6 +116,13 @@ class ProgramTest : public ::testing::Test {
   private:
     static constexpr uid_t nobody = 65534;
 
+#ifdef PONDIFF_EMULATOR
+    /// Runs the program, which is one for another processor.
+    static Arguments emulator() { return {PONDIFF_EMULATOR, "-0", "pondiff"}; }
+#else
+    static Arguments emulator() { return {}; }
+#endif
+
     [[noreturn]] void become_program(const Arguments& arguments, const Surroundings& surroundings, int out,
                                      int err) const
     {
@@ -137,17 +144,23 @@ class ProgramTest : public ::testing::Test {
         for (const int descriptor : surroundings.closed)
             close(descriptor);
         umask(surroundings.mask);
+        Arguments words = emulator();
+        const bool emulated = !words.empty();
         for (const std::string& variable : surroundings.environment) {
             const std::size_t equals = variable.find('=');
-            setenv(variable.substr(0, equals).c_str(), variable.substr(equals + 1).c_str(), 1);
+            const std::string name = variable.substr(0, equals);
+            if (emulated && name == "LD_PRELOAD") // the library is one for the program
+                words.insert(words.end(), {"-E", variable});
+            else
+                setenv(name.c_str(), variable.substr(equals + 1).c_str(), 1);
         }
-        std::string program = "pondiff";
-        std::vector<char*> argv{program.data()};
-        Arguments copies = arguments;
-        for (std::string& argument : copies)
-            argv.push_back(argument.data());
+        words.emplace_back(emulated ? PONDIFF_PROGRAM : "pondiff");
+        words.insert(words.end(), arguments.begin(), arguments.end());
+        std::vector<char*> argv;
+        for (std::string& word : words)
+            argv.push_back(word.data());
         argv.push_back(nullptr);
-        execv(PONDIFF_PROGRAM, argv.data());
+        execvp(emulated ? argv.front() : PONDIFF_PROGRAM, argv.data());
         std::abort();
     }
 
