@@ -2,6 +2,8 @@
 /// gives null, nothing is lost, and the session goes on. PONDIFF_FULL=1 in the environment does the same with the
 /// largest configuration.
 
+#include "pon/DataToCommandsConvertor/text.h"
+#include "pon/diff_builder/list.h"
 #include "tests/support/allocation.h"
 #include "tests/support/diff.h"
 #include "tests/support/record_diffs.h"
@@ -197,7 +199,69 @@ TEST_F(FailingAllocations, OfASessionLeaveAnEmptyOneThatCanBeClosedAndOpenedAgai
     }
 }
 
+/// The last allocations of a session are for names, of one configuration or the other.
+TEST(FailingAllocation, OfAnyNameLeavesAnEmptySession)
+{
+    Session session;
+    for (GCfg* const filled : {session.orig, session.cfg}) {
+        *session.orig = GCfg{};
+        *session.cfg = GCfg{};
+        fill(*filled, 1);
+        finalize_diff();
+        int count = 0;
+        {
+            const CountedAllocations counted;
+            session.open(1, 2);
+            count = counted.count();
+        }
+        ASSERT_GT(count, GCFG_ONTS);
+        for (int nth = GCFG_ONTS + 1; nth <= count; nth++) {
+            SCOPED_TRACE(nth);
+            const FailingAllocation failure(nth, Failing::once);
+            ASSERT_EQ(initiate_diff(session.orig, session.cfg, 1, 2), -1);
+            expect_no_names();
+        }
+    }
+}
+
 // ------------------------------------------------------------------------------------- lists, texts and templates
+
+TEST(FailingAllocation, OfAnOperationWithNothingToSayGivesNullToo)
+{
+    List<char> list;
+    pondiff::Script script(list);
+    {
+        const FailingAllocation failure(1, Failing::once);
+        EXPECT_EQ(script.release(), nullptr);
+        EXPECT_TRUE(failure.happened());
+    }
+    EXPECT_EQ(taken(script.release()), "");
+}
+
+TEST(FailingAllocation, LeavesAScratchTextAsItWas)
+{
+    using pondiff::Text;
+    void (*const append[])(Text&) = {
+        [](Text& text) { text.append("more than is left"); },
+        [](Text& text) { text.append_natural(7); },
+        [](Text& text) { text.append_decimal(-7); },
+        [](Text& text) { text.append_aligned(7); },
+    };
+    const std::string nearly_full(1015, 'v');
+    for (const auto& more : append) {
+        SCOPED_TRACE(&more - append);
+        Text text;
+        text.append(nearly_full.c_str());
+        {
+            const FailingAllocation failure(1, Failing::once);
+            more(text);
+            EXPECT_TRUE(failure.happened());
+        }
+        EXPECT_TRUE(text.failed());
+        EXPECT_EQ(text.c_str(), nearly_full);
+        EXPECT_EQ(text.release_copy(), nullptr);
+    }
+}
 
 TEST(FailingAllocation, LeavesTheTextToWhoeverPushesIt)
 {
@@ -341,4 +405,27 @@ TEST(FailingAllocation, OfATemplateIntoABufferLeavesAnEmptyText)
         }
         ASSERT_EQ(failures > 0, command != &short_one) << "a command of the usual length needs no heap";
     }
+}
+
+/// Each needs more than the room on the stack in another place: the template, the mark at its end, the name.
+TEST(FailingAllocation, OfTheLastPartOfATemplateGivesNull)
+{
+    Session session;
+    session.open();
+    char longest_name[3000] = "";
+    std::memset(longest_name, 'n', sizeof longest_name - 1);
+    user2id_connection[3] = longest_name; // longer than a session makes any
+    int ids[10] = {3, 44};
+    std::string mark_at_the_end = std::string(1020, 'x') + "$ID";
+    std::string named = "user $ID0 x";
+    const std::string expected[] = {std::string(1020, 'x') + "   3", "user \"" + std::string(longest_name) + "\" x"};
+    std::string* const commands[] = {&mark_at_the_end, &named};
+    for (int i = 0; i < 2; i++) {
+        char* const command = commands[i]->data();
+        EXPECT_EQ(taken(useVariables(command, ids)), expected[i]);
+        const FailingAllocation failure(1, Failing::once);
+        EXPECT_EQ(useVariables(command, ids), nullptr);
+        EXPECT_TRUE(failure.happened());
+    }
+    user2id_connection[3] = nullptr;
 }

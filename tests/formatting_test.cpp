@@ -1,3 +1,4 @@
+#include "pon/diff_builder/formatting.h"
 #include "tests/support/diff.h"
 
 #include <algorithm>
@@ -271,6 +272,23 @@ TEST(Formatting, ArraysWithoutElementsAreEmptyTexts)
 }
 
 // -------------------------------------------------------------------------------------------------------- replacing
+
+TEST(FormattedTemplates, EachConversionTakesTheNextValue)
+{
+    const pondiff::Value values[] = {"one", -2, 3000000000U};
+    const auto formatted = [&values](const char* form, std::size_t count) {
+        pondiff::Text text;
+        pondiff::format(text, form, values, count);
+        return std::string(text.c_str());
+    };
+    EXPECT_EQ(formatted("", 3), "");
+    EXPECT_EQ(formatted("plain", 3), "plain");
+    EXPECT_EQ(formatted("%s", 3), "one");
+    EXPECT_EQ(formatted("<%s>%d<%u>", 3), "<one>-2<3000000000>");
+    EXPECT_EQ(formatted("<%d> and %s", 3), "<one> and -2") << "the value knows how it is written";
+    EXPECT_EQ(formatted("<%s>%d<%u>", 1), "<one><>") << "a conversion without a value stands for nothing";
+    EXPECT_EQ(formatted("<%s>", 0), "<>");
+}
 
 TEST(StrReplace, ReplacesEveryOccurrence)
 {

@@ -96,6 +96,16 @@ TEST(FullDiff, CommonRecordsAloneByDefault)
                                    "commit\n");
 }
 
+// Taken before any test sets them.
+const int initial_print_all = print_all;
+const int initial_print_common = print_common;
+
+TEST(FullDiff, SwitchesSayAtFirstWhatIsUsualForASession)
+{
+    EXPECT_EQ(initial_print_all, 0) << "nothing is forced";
+    EXPECT_EQ(initial_print_common, 1) << "the common records alone";
+}
+
 TEST(FullDiff, SwitchesAreStoredAndKept)
 {
     Session session;
@@ -116,6 +126,7 @@ TEST(FullDiff, NullRecordsGiveWhatEqualOnesGive)
     int key[10] = {};
     List<char> out;
     EXPECT_FALSE(getdiff_GCfg(nullptr, session.cfg, key, out));
+    EXPECT_FALSE(getdiff_GCfg(session.orig, nullptr, key, out));
     EXPECT_FALSE(getdiff_GPonCfg(session.orig ? &session.orig->pon : nullptr, nullptr, key, out));
     EXPECT_EQ(out.size(), 0);
 }

@@ -328,6 +328,54 @@ TEST(PushedTexts, LinesOfEveryLengthAroundPowersOfTwoAreWhole)
     }
 }
 
+TEST(PushedTexts, ALineMayBeBuiltInPlace)
+{
+    List<char> list;
+    Script script(list);
+    const auto build = [&script](const std::string& line) {
+        char* const room = script.room();
+        ASSERT_NE(room, nullptr);
+        ASSERT_GT(script.room_size(), 1024U);
+        line.copy(room, line.size());
+        script.take_line(line.size());
+    };
+    build("");
+    build("\n");
+    build("\nexit");
+    EXPECT_TRUE(script.empty()) << "neither empty ones nor those that begin with a line feed are lines";
+    build("first");
+    build("\nexit");
+    build("");
+    build("second\nthird\n");
+    EXPECT_EQ(taken(script.release()), "first\nsecond\nthird\n\n");
+}
+
+TEST(PushedTexts, RoomForALineIsAlwaysFound)
+{
+    List<char> list;
+    Script script(list);
+    std::string expected;
+    for (std::size_t i = 0; i < 3000; i++) {
+        const std::string line(1023, static_cast<char>('a' + i % 26));
+        char* const room = script.room();
+        ASSERT_NE(room, nullptr);
+        line.copy(room, line.size());
+        script.take_line(line.size());
+        expected += line + '\n';
+    }
+    EXPECT_EQ(taken(script.release()), expected);
+}
+
+TEST(PushedTexts, AScriptThatLostATextHasNoRoom)
+{
+    List<char> list;
+    Script script(list);
+    EXPECT_NE(script.room(), nullptr);
+    script.lose();
+    EXPECT_EQ(script.room(), nullptr);
+    EXPECT_FALSE(push(list, "more"));
+}
+
 TEST(PushedTexts, AScriptThatLostATextIsNull)
 {
     List<char> list;

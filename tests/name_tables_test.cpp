@@ -412,6 +412,24 @@ TEST_F(NameTables, AfterClosingEverySlotIsNull)
     EXPECT_EQ(getTerminalVlanName(0), nullptr);
 }
 
+TEST_F(NameTables, AfterClosingEveryAddressIsEmpty)
+{
+    std::memset(&session.cfg->system.services, 0xFF, sizeof session.cfg->system.services);
+    session.open();
+    ASSERT_STREQ(sourceguardip[1023], "255.255.255.255");
+    EXPECT_EQ(finalize_diff(), 0);
+    const auto is_empty = [](const auto& rows) {
+        return std::all_of(std::begin(rows), std::end(rows), [](const char(&row)[16]) {
+            return std::all_of(std::begin(row), std::end(row), [](char byte) { return byte == '\0'; });
+        });
+    };
+    EXPECT_TRUE(is_empty(telnetip));
+    EXPECT_TRUE(is_empty(sship));
+    EXPECT_TRUE(is_empty(snmpip));
+    EXPECT_TRUE(is_empty(routeip));
+    EXPECT_TRUE(is_empty(sourceguardip));
+}
+
 TEST_F(NameTables, ClosingTwiceOrWithoutOpeningIsHarmless)
 {
     EXPECT_EQ(finalize_diff(), 0);

@@ -117,8 +117,10 @@ TEST_P(PartialProfiles, EqualSlotIsShownUnderPrintAllWhenAskedForById)
     session.open();
     EXPECT_EQ(profile(kind.name, 3), nothing);
     EXPECT_EQ(profile(kind.name, -1), nothing);
-    session.open(1, 0);
-    EXPECT_EQ(profile(kind.name, -1), nothing);
+    for (const int common : {2, 1, 0}) {
+        session.open(1, common);
+        EXPECT_EQ(profile(kind.name, -1), nothing) << common;
+    }
     const std::string text = profile(kind.name, 3);
     const std::string front = std::string("configure terminal\n") + kind.enter + " \"third\"\n" +
                               (kind.name_is_forced ? "name \"third\"\n" : "") + "description \"of third\"\n";

@@ -156,6 +156,28 @@ TEST(Placeholders, WithoutANumberTheOneReadLastServes)
     EXPECT_EQ(numbered("$ID2$ID - 5"), " 102 102- 5");
 }
 
+TEST(Placeholders, NothingButBlanksAndASignIsSkippedOnTheWayToANumber)
+{
+    EXPECT_EQ(numbered("a $ID\x01"
+                       "5 z"),
+              "a  1005 z");
+    EXPECT_EQ(numbered("a $ID\x08"
+                       "5 z"),
+              "a  1005 z");
+    EXPECT_EQ(numbered("a $ID\x0E"
+                       "5 z"),
+              "a  1005 z");
+    EXPECT_EQ(numbered("a $ID\xFF"
+                       "5 z"),
+              "a  1005 z");
+    EXPECT_EQ(numbered("a $ID\x09"
+                       "5 z"),
+              "a  1055 z");
+    EXPECT_EQ(numbered("a $ID\x0D"
+                       "5 z"),
+              "a  1055 z");
+}
+
 TEST(Placeholders, BeforeAnyNumberItIsSlotZero)
 {
     EXPECT_EQ(numbered("$IDx"), " 100");
@@ -336,6 +358,11 @@ TEST_F(Families, AreNamelessOutsideASession)
     EXPECT_EQ(substituted("user $ID0 x", {3}), "user \"\" x");
     EXPECT_EQ(substituted("alarm $ID0 x", {3}), "alarm  x");
     EXPECT_EQ(substituted("log submodule $ID0 x", {3}), "log submodule pmchal-olt x") << "a word of no session";
+    EXPECT_EQ(substituted("ip ssh allow ip $ID0 x", {3}), "ip ssh allow ip  x");
+    EXPECT_EQ(substituted("ip snmp allow ip $ID0 x", {3}), "ip snmp allow ip  x");
+    EXPECT_EQ(substituted("ip telnet allow ip $ID0 x", {3}), "ip telnet allow ip  x");
+    EXPECT_EQ(substituted("ip route prefix $ID0 x", {3}), "ip route prefix  x");
+    EXPECT_EQ(substituted("ip source-guard bind ip $ID0 x", {3}), "ip source-guard bind ip  x");
 }
 
 // ---------------------------------------------------------------------------------------------- a buffer of one's own

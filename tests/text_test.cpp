@@ -2,6 +2,7 @@
 
 #include <climits>
 #include <cstdint>
+#include <cstdio>
 #include <cstdlib>
 #include <gtest/gtest.h>
 #include <string>
@@ -78,6 +79,81 @@ TEST(Digits, DecimalNumbers)
     EXPECT_EQ(decimal(INT_MIN), "-2147483648");
     EXPECT_EQ(decimal(INT64_MAX), "9223372036854775807");
     EXPECT_EQ(decimal(INT64_MIN), "-9223372036854775808");
+}
+
+namespace {
+
+/// What the printing conversions write.
+std::string printed_natural(std::uint64_t value)
+{
+    char text[32];
+    std::snprintf(text, sizeof text, "%ju", std::uintmax_t{value});
+    return text;
+}
+
+std::string printed_decimal(std::int64_t value)
+{
+    char text[32];
+    std::snprintf(text, sizeof text, "%jd", std::intmax_t{value});
+    return text;
+}
+
+std::string printed_aligned(int value)
+{
+    char text[32];
+    std::snprintf(text, sizeof text, "%4d", value);
+    return text;
+}
+
+std::string aligned(int value)
+{
+    std::vector<char> out(20, 'x');
+    const std::size_t size = put_aligned(out.data(), value);
+    return {out.data(), size};
+}
+
+std::string identifier(int value)
+{
+    std::vector<char> out(4, 'x');
+    put_identifier(out.data(), value);
+    return {out.data(), out.size()};
+}
+
+} // namespace
+
+TEST(Digits, AreThoseOfThePrintingConversions)
+{
+    for (int value = 0; value < 100000; value++) {
+        ASSERT_EQ(natural(static_cast<unsigned>(value)), printed_natural(static_cast<unsigned>(value)));
+        for (const int either : {value, -value}) {
+            ASSERT_EQ(decimal(either), printed_decimal(either));
+            ASSERT_EQ(aligned(either), printed_aligned(either));
+            ASSERT_EQ(identifier(either), printed_aligned(either).substr(0, 4));
+        }
+    }
+}
+
+TEST(Digits, AroundTheLimitsOfTheTypes)
+{
+    std::vector<std::uint64_t> values;
+    std::uint64_t power = 1;
+    for (int zeros = 0; zeros < 20; zeros++, power *= 10)
+        values.push_back(power);
+    for (unsigned bit = 0; bit < 64; bit++)
+        values.push_back(std::uint64_t{1} << bit);
+    for (const std::uint64_t about : values) {
+        for (const std::uint64_t value : {about - 1, about, about + 1, 0 - about}) {
+            const auto as_signed = static_cast<std::int64_t>(value);
+            const auto narrow = static_cast<int>(static_cast<std::uint32_t>(value));
+            ASSERT_EQ(natural(value), printed_natural(value));
+            ASSERT_EQ(decimal(as_signed), printed_decimal(as_signed));
+            ASSERT_EQ(aligned(narrow), printed_aligned(narrow));
+            ASSERT_EQ(identifier(narrow), printed_aligned(narrow).substr(0, 4));
+        }
+    }
+    EXPECT_EQ(aligned(INT_MIN), "-2147483648");
+    EXPECT_EQ(identifier(INT_MIN), "-214");
+    EXPECT_EQ(identifier(INT_MAX), "2147");
 }
 
 TEST(ScratchText, IsEmptyAtFirst)

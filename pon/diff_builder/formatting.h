@@ -34,7 +34,6 @@ class Value {
     Value(char* field) = delete;
     Value(int number) : form_(Form::decimal), number_(number) {}
     Value(unsigned number) : form_(Form::natural), number_(number) {}
-    Value(std::int64_t number) : form_(Form::decimal), number_(number) {}
 
     /// A text field: up to its terminator or the end of its array.
     static Value text(const void* array, std::size_t capacity, Form form = Form::text)

@@ -27,10 +27,8 @@ std::int64_t load(const char* field, const RowData& row)
         return load_as<std::uint8_t, std::int8_t>(field, row.is_signed);
     case 2:
         return load_as<std::uint16_t, std::int16_t>(field, row.is_signed);
-    case 4:
-        return load_as<std::uint32_t, std::int32_t>(field, row.is_signed);
     default:
-        return load_as<std::uint64_t, std::int64_t>(field, row.is_signed);
+        return load_as<std::uint32_t, std::int32_t>(field, row.is_signed);
     }
 }
 

@@ -195,8 +195,9 @@ constexpr Row<Record> value(Field<Record, Type> field, const char* form, Value::
     return row(field, RowData::Kind::value, form, {}, how, digits);
 }
 
+/// Of 32 bits at the most: no record has wider ones.
 template <class Type>
-constexpr bool is_number = std::is_integral_v<Type>;
+constexpr bool is_number = std::is_integral_v<Type> && sizeof(Type) <= sizeof(std::uint32_t);
 
 template <class Type, std::size_t N>
 constexpr bool is_bytes = std::is_same_v<Type, std::uint8_t[N]>;

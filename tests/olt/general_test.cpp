@@ -292,6 +292,17 @@ TEST_F(OltGeneral, ForcedProfileWithoutANameIsLeftOut)
     EXPECT_EQ(diff.script().find("gpon olt profile"), std::string::npos);
 }
 
+TEST_F(OltGeneral, AnyNonZeroReducedLatencyIsOn)
+{
+    for (const u16 flag : {u16{2}, u16{0x100}, u16{65535}}) {
+        after.dba_reduced_latency = flag;
+        EXPECT_EQ(diff.elements(), (Elements{"", "gpon olt dba-reduced-latency allocation-mode most-demanding"}));
+    }
+    before.dba_reduced_latency = 1;
+    after.dba_reduced_latency = 2;
+    EXPECT_EQ(diff.elements(), (Elements{"", "gpon olt dba-reduced-latency allocation-mode most-demanding"}));
+}
+
 TEST_F(OltGeneral, ReducedLatencyNamesItsAllocationMode)
 {
     after.dba_reduced_latency = 1;

@@ -203,6 +203,16 @@ TEST_F(GponPort, GemPortOfUnknownMulticast)
     EXPECT_EQ(diff.elements(), (Elements{"", "unknown-multicast-forward to broadcast"}));
 }
 
+TEST_F(GponPort, GemPortWhileForwardingHasAnotherFlagThanOne)
+{
+    before.unknown_multicast_forward = after.unknown_multicast_forward = 2;
+    after.unknown_multicast_forward_gem_port = 1;
+    EXPECT_EQ(diff.elements(), (Elements{"", "unknown-multicast-forward to multicast"}));
+    after.unknown_multicast_forward = 65535;
+    EXPECT_EQ(diff.elements(), (Elements{"", "unknown-multicast-forward enable", //
+                                         "", "unknown-multicast-forward to multicast"}));
+}
+
 TEST_F(GponPort, GemPortWhileForwardingIsOffIsAnEmptyCommand)
 {
     after.unknown_multicast_forward_gem_port = 1;

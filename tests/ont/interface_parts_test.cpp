@@ -1,5 +1,7 @@
 #include "tests/support/diff.h"
 
+#include <cstdlib>
+
 namespace {
 
 template <class Record>
@@ -97,6 +99,12 @@ TEST(OntCustomCrossConnect, ReturnsAByte)
     const unsigned char result = getdiff_GPonOntCustomCrossConnect(&before, &after, key, out);
     EXPECT_EQ(result, 0);
     EXPECT_EQ(out.size(), 0);
+    after.exist = 1;
+    after.vid = 100;
+    EXPECT_EQ(getdiff_GPonOntCustomCrossConnect(&before, &after, key, out), 0) << "with commands too";
+    EXPECT_EQ(out.size(), 2);
+    for (ListElem<char>* node = out.begin(); node; node = node->next)
+        std::free(node->elem);
 }
 
 // ------------------------------------------------------------------------------------------------------ UNI ports

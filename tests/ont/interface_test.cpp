@@ -108,6 +108,15 @@ TEST_F(Ont, AnotherNonZeroExistenceNavigatesAlone)
     EXPECT_EQ(diff.elements(), Elements{"configure terminal\ninterface ont 1/6"});
 }
 
+TEST_F(Ont, AnyNonZeroExistenceShowsItsChanges)
+{
+    before.exist = after.exist = 65535;
+    after.fec_up = 1;
+    EXPECT_EQ(diff.elements(), (Elements{"", "fec"}));
+    before.exist = 1;
+    EXPECT_EQ(diff.elements(), (Elements{"", "", "fec"})) << "its view is entered first";
+}
+
 TEST_F(Ont, AbsentInBothSaysNothing)
 {
     before.exist = after.exist = 0;

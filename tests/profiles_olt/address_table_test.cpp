@@ -165,6 +165,9 @@ TEST_F(SvlanEntry, SlotThatDoesNotExistShowsItsSettingsAllTheSame)
     diff.before.exist = diff.after.exist = 0;
     diff.after.use_pbits = 1;
     EXPECT_EQ(diff.script(), "s-vlan 100 use pbits\n");
+    diff.after = diff.before;
+    diff.after.svlan = 200;
+    EXPECT_EQ(diff.script(), "s-vlan 200\n") << "and its move";
 }
 
 TEST_F(SvlanEntry, NewWithoutSettingsIsTheBareNumber)
@@ -201,6 +204,8 @@ TEST_F(SvlanEntry, FlagAloneOfASlotThatExistedSaysNothing)
     EXPECT_EQ(diff.elements(), Elements{});
     diff.after.exist = 2;
     EXPECT_EQ(diff.elements(), Elements{});
+    std::swap(diff.before, diff.after);
+    EXPECT_EQ(diff.elements(), Elements{}) << "2 existed: 1 is not new";
 }
 
 TEST_F(SvlanEntry, MovedToAnotherNumber)

@@ -21,6 +21,16 @@ TEST(VlanEthertypes, UplinkNamesItsDirectionAndProfile)
                                    "uplink insertion cvlan-ethertype \"0x0001\"\n");
 }
 
+TEST(VlanEthertypes, EqualOrNullRecordsSayNothing)
+{
+    Diff ethertypes{getdiff_GVlanGeneralCfg};
+    EXPECT_EQ(ethertypes.elements(), Elements{});
+    List<char> out;
+    EXPECT_FALSE(getdiff_GVlanGeneralCfg(nullptr, &ethertypes.after, ethertypes.key, out));
+    EXPECT_FALSE(getdiff_GVlanGeneralCfg(&ethertypes.before, nullptr, ethertypes.key, out));
+    EXPECT_EQ(out.size(), 0);
+}
+
 TEST(VlanEthertypes, DownlinkBeginsWithItsDirection)
 {
     Diff ethertypes{getdiff_GVlanGeneralCfg};

@@ -113,6 +113,25 @@ TEST_F(Writing, SymbolicLinkToItselfIsTrouble)
     expect_trouble(write_script_to("script"), "pondiff: script: Too many levels of symbolic links\n");
 }
 
+// Times and sizes have 64 bits on every processor.
+TEST_F(Writing, FileOfTheFarFutureIsReplaced)
+{
+    write("target", "older\n");
+    std::filesystem::create_symlink("target", path("link"));
+    for (const char* const name : {"target", "link"}) {
+        timespec times[2] = {};
+        times[0].tv_sec = times[1].tv_sec = time_t{0x9000'0000}; // in the year 2046
+        ASSERT_EQ(utimensat(AT_FDCWD, path(name).c_str(), times, AT_SYMLINK_NOFOLLOW), 0);
+    }
+    const Outcome outcome = write_script_to("link");
+    EXPECT_EQ(outcome.err, "");
+    EXPECT_EQ(outcome.status, 1);
+    struct stat link = {};
+    ASSERT_EQ(lstat(path("link").c_str(), &link), 0);
+    EXPECT_TRUE(S_ISLNK(link.st_mode));
+    EXPECT_EQ(read("target"), script);
+}
+
 TEST_F(Writing, NothingToDoLeavesTheFileAlone)
 {
     EXPECT_EQ(run({"diff", "orig.json", "orig.json", "-o", "script"}).status, 0);

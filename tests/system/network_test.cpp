@@ -104,6 +104,8 @@ TEST(Network, NullRecordsSayNothing)
     print_all = 1;
     getdiff_GSystemNetworkCfg(nullptr, &record, key, out);
     getdiff_GSystemNetworkCfg(&record, nullptr, key, out);
+    getdiff_GSystemAcsMgmtCfg(nullptr, &record, key, out);
+    getdiff_GSystemAcsMgmtCfg(&record, nullptr, key, out);
     print_all = 0;
     EXPECT_EQ(out.size(), 0);
 }

@@ -41,6 +41,8 @@ TEST(Ntp, TimezoneIsSigned)
     Diff ntp{getdiff_GSystemNtpCfg};
     ntp.after.timezone = -3;
     EXPECT_EQ(ntp.script(), "configure terminal\nip ntp timezone \"-3\"\n");
+    ntp.after.timezone = -1;
+    EXPECT_EQ(ntp.script(), "configure terminal\nip ntp timezone \"-1\"\n");
     ntp.after.timezone = -32768;
     EXPECT_EQ(ntp.script(), "configure terminal\nip ntp timezone \"-32768\"\n");
     ntp.after.timezone = 32767;
