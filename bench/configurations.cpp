@@ -129,7 +129,7 @@ void fill(const Leaf& leaf, unsigned char* at)
         return;
     case Form::enumeration: {
         const std::vector<int>& values = values_with_words(field.enumeration);
-        tool::set_number(field, at, values[seed % values.size()]);
+        tool::set_number(field, at, values[static_cast<std::size_t>(seed % values.size())]);
         return;
     }
     case Form::hexadecimal:

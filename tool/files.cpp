@@ -3,6 +3,7 @@
 #include "tool/json/json.h"
 
 #include <cerrno>
+#include <climits>
 #include <csignal>
 #include <cstdlib>
 #include <cstring>
@@ -172,10 +173,14 @@ void write_in_place(const std::string& file, std::string_view content, const std
 std::filesystem::path link_target(std::filesystem::path file)
 {
     // The chain is finite: whoever asks has seen that the system can follow it, or that its end does not exist.
-    std::error_code error;
-    while (std::filesystem::is_symlink(std::filesystem::symlink_status(file, error)))
-        file = file.parent_path() / std::filesystem::read_symlink(file);
-    return file;
+    // Asked of the system: on processors of 32 bits the C++ library takes a link of the far future for none.
+    std::string target(PATH_MAX, '\0');
+    while (true) {
+        const ssize_t length = readlink(file.c_str(), target.data(), target.size());
+        if (length < 0)
+            return file;
+        file = file.parent_path() / target.substr(0, static_cast<std::size_t>(length));
+    }
 }
 
 bool take_permissions(int descriptor, const struct stat* existing)

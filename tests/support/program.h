@@ -116,13 +116,6 @@ class ProgramTest : public ::testing::Test {
   private:
     static constexpr uid_t nobody = 65534;
 
-#ifdef PONDIFF_EMULATOR
-    /// Runs the program, which is one for another processor.
-    static Arguments emulator() { return {PONDIFF_EMULATOR, "-0", "pondiff"}; }
-#else
-    static Arguments emulator() { return {}; }
-#endif
-
     [[noreturn]] void become_program(const Arguments& arguments, const Surroundings& surroundings, int out,
                                      int err) const
     {
@@ -144,7 +137,7 @@ class ProgramTest : public ::testing::Test {
         for (const int descriptor : surroundings.closed)
             close(descriptor);
         umask(surroundings.mask);
-        Arguments words = emulator();
+        Arguments words{PONDIFF_EMULATOR};
         const bool emulated = !words.empty();
         for (const std::string& variable : surroundings.environment) {
             const std::size_t equals = variable.find('=');
@@ -154,6 +147,8 @@ class ProgramTest : public ::testing::Test {
             else
                 setenv(name.c_str(), variable.substr(equals + 1).c_str(), 1);
         }
+        if (emulated)
+            words.insert(words.end(), {"-0", "pondiff"});
         words.emplace_back(emulated ? PONDIFF_PROGRAM : "pondiff");
         words.insert(words.end(), arguments.begin(), arguments.end());
         std::vector<char*> argv;

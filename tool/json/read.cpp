@@ -214,13 +214,14 @@ void Reader::choose_field(Frame& frame, std::string_view name)
 void Reader::choose_element(Frame& frame, std::string_view name)
 {
     const Field& field = *frame.field;
-    std::uint64_t index = 0;
-    if (!parse_decimal(name, index)) {
+    std::uint64_t number = 0;
+    if (!parse_decimal(name, number)) {
         fail(fmt::format("{} is no index: expected a number from 0 to {}", quote(name), field.count - 1));
     }
-    if (index >= field.count) {
+    if (number >= field.count) {
         fail_index(frame, name);
     }
+    const auto index = static_cast<std::size_t>(number);
     if (!frame.mark(index)) {
         fail("duplicate key " + quote(name));
     }
@@ -396,7 +397,7 @@ bool Reader::choose_slot_range(Frame& frame, std::string_view text)
     if (last >= frame.field->count) {
         fail_index(frame, ends[1]);
     }
-    for (std::size_t slot = first; slot <= last; slot++) {
+    for (auto slot = static_cast<std::size_t>(first); slot <= last; slot++) {
         if (!frame.mark(slot)) {
             fail(fmt::format("{} is given twice", slot));
         }
