@@ -190,7 +190,7 @@ class Injection : public testing::Test {
             if (begins(field.path, kind.path)) {
                 char word[16];
                 std::strcpy(word, kind.word);
-                const int last = std::atoi(field.path.c_str() + std::strlen(kind.path));
+                const int last = std::stoi(field.path.substr(std::strlen(kind.path)));
                 return taken(GetProfileDiff(&orig->pon, &cfg->pon, word, last));
             }
         }
@@ -234,7 +234,7 @@ class Injection : public testing::Test {
 
     static std::string taken(char* text)
     {
-        const std::string copy = text != nullptr ? text : "no text";
+        std::string copy = text != nullptr ? text : "no text";
         std::free(text);
         return copy;
     }
