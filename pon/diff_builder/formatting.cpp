@@ -34,7 +34,7 @@ void append_hexadecimal(Text& out, std::uint64_t value, std::size_t least_digits
 
 void append_ipv4(Text& out, const std::uint8_t* address)
 {
-    char dotted[3 * 4 + most_digits];
+    char dotted[std::size_t{3} * 4 + most_digits];
     char* at = dotted;
     for (int i = 0; i < 4; ++i) {
         if (i != 0)
