@@ -54,7 +54,7 @@ std::string replaced(const std::string& text, const char* needle, const char* re
     std::vector<char> bytes(text.c_str(), text.c_str() + text.size() + 1);
     str_replace(bytes.data(), needle, replacement);
     EXPECT_EQ(bytes.back(), '\0') << "the terminator stays";
-    return std::string(bytes.data(), text.size());
+    return {bytes.data(), text.size()};
 }
 
 } // namespace

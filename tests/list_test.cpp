@@ -5,7 +5,6 @@
 #include <string>
 #include <type_traits>
 
-using pondiff::push;
 using pondiff::Script;
 
 namespace {
@@ -317,7 +316,7 @@ TEST(PushedTexts, LongScriptsAreWhole)
 
 TEST(PushedTexts, LinesOfEveryLengthAroundPowersOfTwoAreWhole)
 {
-    for (const std::size_t power : {1024u, 4096u, 8192u}) {
+    for (const std::size_t power : {1024U, 4096U, 8192U}) {
         for (std::size_t length = power - 4; length < power + 4; length++) {
             List<char> list;
             Script script(list);

@@ -18,19 +18,19 @@ std::string natural(std::uint64_t value)
 {
     std::vector<char> out(20, 'x');
     const std::size_t size = put_natural(out.data(), value);
-    return std::string(out.data(), size);
+    return {out.data(), size};
 }
 
 std::string decimal(std::int64_t value)
 {
     std::vector<char> out(20, 'x');
     const std::size_t size = put_decimal(out.data(), value);
-    return std::string(out.data(), size);
+    return {out.data(), size};
 }
 
 std::string content(const Text& text)
 {
-    return std::string(text.data(), text.size());
+    return {text.data(), text.size()};
 }
 
 void append(Text& text, const std::string& bytes)
@@ -159,7 +159,7 @@ TEST(Digits, AroundTheLimitsOfTheTypes)
 TEST(ScratchText, IsEmptyAtFirst)
 {
     Text text;
-    EXPECT_EQ(text.size(), 0u);
+    EXPECT_EQ(text.size(), 0U);
     EXPECT_STREQ(text.c_str(), "");
     EXPECT_FALSE(text.failed());
 }
@@ -175,7 +175,7 @@ TEST(ScratchText, TakesTextsBytesAndNumbers)
     text.append("", 0);
     text.append("");
     EXPECT_STREQ(text.c_str(), "port 7 of -8!");
-    EXPECT_EQ(text.size(), 13u);
+    EXPECT_EQ(text.size(), 13U);
 }
 
 TEST(ScratchText, TakesTheLongestNumbers)
@@ -242,7 +242,7 @@ TEST(ScratchText, IsUsedAnewOnceCleared)
     Text text;
     append(text, std::string(3000, 'v'));
     text.clear();
-    EXPECT_EQ(text.size(), 0u);
+    EXPECT_EQ(text.size(), 0U);
     EXPECT_STREQ(text.c_str(), "");
     text.append("again");
     EXPECT_STREQ(text.c_str(), "again");
@@ -271,7 +271,7 @@ TEST(ScratchText, ItsFrontIsReplacedAcrossItsRoomOnTheStack)
 
 TEST(ScratchText, HandsOutCopies)
 {
-    for (const std::size_t length : {0u, 1u, 1023u, 1024u, 5000u}) {
+    for (const std::size_t length : {0U, 1U, 1023U, 1024U, 5000U}) {
         Text text;
         append(text, std::string(length, 'v'));
         char* const copy = text.release_copy();
