@@ -95,7 +95,7 @@ class FailingRecordDiffs : public testing::Test {
     Session session;
 
   private:
-    void note(const FailingAllocation& guard) { EXPECT_TRUE(guard.happened()); }
+    static void note(const FailingAllocation& guard) { EXPECT_TRUE(guard.happened()); }
     void note(const CountedAllocations& guard) { allocations = guard.count(); }
 
     int allocations = 0;

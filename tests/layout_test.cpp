@@ -142,7 +142,7 @@ TEST(Layout, CAndCxxAgreeOnEveryRecord)
         EXPECT_TRUE(records.insert(size.record).second) << size.record << " is listed twice";
         EXPECT_EQ(layout_seen_from_c(size.record), size.here) << size.record;
     }
-    EXPECT_EQ(records.size(), 98u);
+    EXPECT_EQ(records.size(), 98U);
     EXPECT_EQ(layout_records_seen_from_c(), 98);
     EXPECT_EQ(layout_seen_from_c("GNoSuchCfg"), -1);
 }

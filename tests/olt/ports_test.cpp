@@ -65,7 +65,7 @@ TEST_F(GponPort, EveryRowTakenBack)
     before.unknown_multicast_forward = 1;
     before.unknown_multicast_forward_gem_port = 1;
     after.enabled = 1;
-    Elements expected(2 * 7);
+    Elements expected(14);
     expected[7] = "no optics use-custom";
     EXPECT_EQ(diff.elements(), expected);
 }
