@@ -14,7 +14,7 @@ std::string substituted(const std::string& command, const std::vector<int>& key)
     std::vector<int> ids(key);
     ids.resize(10);
     const std::vector<int> ids_before = ids;
-    const std::string result = taken(useVariables(text.data(), ids.data()));
+    std::string result = taken(useVariables(text.data(), ids.data()));
     EXPECT_STREQ(text.data(), command.c_str()) << "the template is only read";
     EXPECT_EQ(ids, ids_before) << "the key is only read";
     return result;
@@ -41,7 +41,7 @@ class Families : public testing::Test {
         put(services.source_guard.bind[3].ip, {203, 0, 113, 255});
     }
 
-    void add_user(int slot, const std::string& name)
+    void add_user(int slot, const std::string& name) const
     {
         GSystemUser& user = session.cfg->system.user[slot];
         user.exist = 1;
@@ -74,7 +74,7 @@ std::string buffer_after(const std::string& command, std::size_t size, std::size
     int ids[10] = {7, 8};
     std::vector<char> output(capacity, 'x');
     EXPECT_EQ(generate_command_buf(text.data(), ids, output.data(), size), 0);
-    return std::string(output.begin(), output.end());
+    return {output.begin(), output.end()};
 }
 
 } // namespace
@@ -210,7 +210,7 @@ TEST(Placeholders, ValuesAreSubstitutedLikeTheTemplate)
 
 TEST(Placeholders, LongTextsAreNotCut)
 {
-    for (const std::size_t length : {1015u, 1016u, 1017u, 1018u, 1019u, 1020u, 1023u, 1024u, 1025u, 2048u, 70000u}) {
+    for (const std::size_t length : {1015U, 1016U, 1017U, 1018U, 1019U, 1020U, 1023U, 1024U, 1025U, 2048U, 70000U}) {
         const std::string value(length, 'v');
         EXPECT_EQ(numbered(value), value);
         EXPECT_EQ(numbered(value + "$ID1" + value + "$ID"), value + " 101" + value + " 101");
@@ -346,7 +346,7 @@ TEST_F(Families, LongTemplatesAreNotCut)
 {
     session.open();
     for (const Family& family : FAMILIES)
-        for (const std::size_t length : {970u, 980u, 990u, 1000u, 1010u, 1020u, 1030u, 5000u})
+        for (const std::size_t length : {970U, 980U, 990U, 1000U, 1010U, 1020U, 1030U, 5000U})
             EXPECT_EQ(substituted(family.begin + ("$ID0 " + std::string(length, 'v')) + "$ID1", {3, 4}),
                       family.named + std::string(length, 'v') + "   4");
 }

@@ -232,7 +232,7 @@ std::string text(const view2view::Way& way)
 
 TEST(ViewRegistry, HoldsTheSeventeenViewsInOrder)
 {
-    ASSERT_EQ(view_count(), 17u);
+    ASSERT_EQ(view_count(), 17U);
     for (std::size_t i = 0; i < 17; i++) {
         SCOPED_TRACE(i);
         EXPECT_STREQ(view(i).name, REGISTRY[i].name);
