@@ -340,16 +340,25 @@ TEST(FailingAllocation, OfAFormatterGivesNull)
     }
 }
 
-TEST(FailingAllocation, OfATemplateGivesNull)
-{
+/// Templates of three lengths in a session with the user that they name.
+class FailingAllocationOfATemplate : public testing::Test {
+  protected:
+    FailingAllocationOfATemplate()
+    {
+        session.cfg->system.user[3].exist = 1;
+        put(session.cfg->system.user[3].name, "sixteen-letters!");
+        session.open();
+    }
+
     Session session;
-    session.cfg->system.user[3].exist = 1;
-    put(session.cfg->system.user[3].name, "sixteen-letters!");
-    session.open();
     int ids[10] = {3, 44};
     std::string short_one = "user $ID0 password $ID1";
     std::string long_one = "user $ID0 " + std::string(1006, 'x') + "$ID1"; // grows once more when the name stands in it
     std::string longer_one = "user $ID0 " + std::string(5000, 'x') + "$ID";
+};
+
+TEST_F(FailingAllocationOfATemplate, GivesNull)
+{
     for (std::string* const command : {&short_one, &long_one, &longer_one}) {
         const std::string whole = taken(useVariables(command->data(), ids));
         EXPECT_EQ(whole.substr(0, 24), "user \"sixteen-letters!\" ");
@@ -372,16 +381,8 @@ TEST(FailingAllocation, OfATemplateGivesNull)
     }
 }
 
-TEST(FailingAllocation, OfATemplateIntoABufferLeavesAnEmptyText)
+TEST_F(FailingAllocationOfATemplate, IntoABufferLeavesAnEmptyText)
 {
-    Session session;
-    session.cfg->system.user[3].exist = 1;
-    put(session.cfg->system.user[3].name, "sixteen-letters!");
-    session.open();
-    int ids[10] = {3, 44};
-    std::string short_one = "user $ID0 password $ID1";
-    std::string long_one = "user $ID0 " + std::string(1006, 'x') + "$ID1";
-    std::string longer_one = "user $ID0 " + std::string(5000, 'x') + "$ID";
     for (std::string* const command : {&short_one, &long_one, &longer_one}) {
         std::string whole(8000, '!');
         ASSERT_EQ(generate_command_buf(command->data(), ids, whole.data(), whole.size()), 0);
