@@ -28,12 +28,12 @@ struct __attribute__((packed)) OtherPair {
     char second[5];
 };
 
-constexpr Field complete[] = {number(AT(Pair, first)), text(AT(Pair, second))};
-constexpr Field without_last[] = {number(AT(Pair, first))};
-constexpr Field without_first[] = {text(AT(Pair, second))};
-constexpr Field swapped[] = {text(AT(Pair, second)), number(AT(Pair, first))};
-constexpr Field twice[] = {number(AT(Pair, first)), number(AT(Pair, first)), text(AT(Pair, second))};
-constexpr Field of_another[] = {number(AT(Pair, first)), text(AT(OtherPair, second))};
+constexpr Field complete[] = {number(FIELD(Pair, first)), text(FIELD(Pair, second))};
+constexpr Field without_last[] = {number(FIELD(Pair, first))};
+constexpr Field without_first[] = {text(FIELD(Pair, second))};
+constexpr Field swapped[] = {text(FIELD(Pair, second)), number(FIELD(Pair, first))};
+constexpr Field twice[] = {number(FIELD(Pair, first)), number(FIELD(Pair, first)), text(FIELD(Pair, second))};
+constexpr Field of_another[] = {number(FIELD(Pair, first)), text(FIELD(OtherPair, second))};
 
 static_assert(tile<Pair>(complete) && belong(complete, "Pair"));
 static_assert(!tile<Pair>(without_last));

@@ -14,6 +14,7 @@
 #include "pon/diff_builder.h"
 #include "pon/diff_builder/comparison.h"
 #include "pon/diff_builder/formatting.h"
+#include "pon/member.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -99,20 +100,6 @@ bool emit(const Where& where, const char* form, Values... values)
     return navigate(where) && command(where, form, values...);
 }
 
-// ---------------------------------------------------------------------------------------------------------- fields
-
-/// A field of a record as the struct declares it.
-template <class Record, class Type>
-struct Field {
-    std::uint16_t offset;
-    std::uint16_t compared = sizeof(Type); ///< how many of its bytes decide whether it has changed
-
-    constexpr Field first(std::uint16_t bytes) const { return {offset, bytes}; }
-};
-
-#define FIELD(record, member)                                                                                          \
-    (::pondiff::Field<record, std::remove_reference_t<decltype(record::member)>>{offsetof(record, member)})
-
 // ------------------------------------------------------------------------------------------------------------ rows
 
 struct RowData {
@@ -181,16 +168,16 @@ struct Row {
 namespace rows {
 
 template <class Record, class Type>
-constexpr Row<Record> row(Field<Record, Type> field, RowData::Kind kind, const char* form, RowData::Extra extra = {},
+constexpr Row<Record> row(Member<Record, Type> field, RowData::Kind kind, const char* form, RowData::Extra extra = {},
                           Value::Form how = Value::Form::text, std::uint8_t detail = 0)
 {
     const bool two_commands = kind == RowData::Kind::flag;
-    return {{form, extra, form, two_commands ? extra.text : nullptr, field.offset, sizeof(Type), field.compared, kind,
-             how, detail, std::is_signed_v<Type>}};
+    return {{form, extra, form, two_commands ? extra.text : nullptr, static_cast<std::uint16_t>(field.offset),
+             sizeof(Type), sizeof(Type), kind, how, detail, std::is_signed_v<Type>}};
 }
 
 template <class Record, class Type>
-constexpr Row<Record> value(Field<Record, Type> field, const char* form, Value::Form how, std::uint8_t digits = 1)
+constexpr Row<Record> value(Member<Record, Type> field, const char* form, Value::Form how, std::uint8_t digits = 1)
 {
     return row(field, RowData::Kind::value, form, {}, how, digits);
 }
@@ -206,7 +193,7 @@ constexpr bool is_bytes = std::is_same_v<Type, std::uint8_t[N]>;
 
 /// The first command when the field is non-zero, the second when it is zero. An empty command still navigates.
 template <class R, class T>
-constexpr Row<R> on_off(Field<R, T> field, const char* on, const char* off)
+constexpr Row<R> on_off(Member<R, T> field, const char* on, const char* off)
 {
     static_assert(rows::is_number<T>);
     return rows::row(field, RowData::Kind::flag, on, off);
@@ -214,7 +201,7 @@ constexpr Row<R> on_off(Field<R, T> field, const char* on, const char* off)
 
 /// The same for the bits of `mask` alone: the others neither decide nor count as a change.
 template <class R, class T>
-constexpr Row<R> bit(Field<R, T> field, std::uint8_t mask, const char* on, const char* off)
+constexpr Row<R> bit(Member<R, T> field, std::uint8_t mask, const char* on, const char* off)
 {
     static_assert(rows::is_number<T>);
     Row<R> row = rows::row(field, RowData::Kind::flag, on, off);
@@ -224,7 +211,7 @@ constexpr Row<R> bit(Field<R, T> field, std::uint8_t mask, const char* on, const
 
 /// One command, whatever the new value is.
 template <class R, class T>
-constexpr Row<R> whenever(Field<R, T> field, const char* command)
+constexpr Row<R> whenever(Member<R, T> field, const char* command)
 {
     static_assert(rows::is_number<T>);
     return rows::row(field, RowData::Kind::flag, command, command);
@@ -232,7 +219,7 @@ constexpr Row<R> whenever(Field<R, T> field, const char* command)
 
 /// In decimal, with the sign that the field's type has.
 template <class R, class T>
-constexpr Row<R> number(Field<R, T> field, const char* form)
+constexpr Row<R> number(Member<R, T> field, const char* form)
 {
     static_assert(rows::is_number<T>);
     return rows::value(field, form, Value::Form::decimal);
@@ -240,7 +227,7 @@ constexpr Row<R> number(Field<R, T> field, const char* form)
 
 /// An unsigned field of 32 bits shown as if it were signed: values of 2^31 and above are negative.
 template <class R, class T>
-constexpr Row<R> number_as_signed(Field<R, T> field, const char* form)
+constexpr Row<R> number_as_signed(Member<R, T> field, const char* form)
 {
     static_assert(std::is_same_v<T, std::uint32_t>);
     Row<R> row = number(field, form);
@@ -249,14 +236,14 @@ constexpr Row<R> number_as_signed(Field<R, T> field, const char* form)
 }
 
 template <class R, class T>
-constexpr Row<R> number_or_unused(Field<R, T> field, const char* form)
+constexpr Row<R> number_or_unused(Member<R, T> field, const char* form)
 {
     static_assert(rows::is_number<T>);
     return rows::value(field, form, Value::Form::decimal_or_unused);
 }
 
 template <class R, class T>
-constexpr Row<R> ber_interval(Field<R, T> field, const char* form)
+constexpr Row<R> ber_interval(Member<R, T> field, const char* form)
 {
     static_assert(std::is_same_v<T, std::uint32_t>);
     return rows::value(field, form, Value::Form::ber_interval);
@@ -264,35 +251,35 @@ constexpr Row<R> ber_interval(Field<R, T> field, const char* form)
 
 /// 0x and at least so many upper-case digits.
 template <class R, class T>
-constexpr Row<R> hexadecimal(Field<R, T> field, std::uint8_t digits, const char* form)
+constexpr Row<R> hexadecimal(Member<R, T> field, std::uint8_t digits, const char* form)
 {
     static_assert(rows::is_number<T> && std::is_unsigned_v<T>);
     return rows::value(field, form, Value::Form::hexadecimal, digits);
 }
 
 template <class R, class T>
-constexpr Row<R> ipv4(Field<R, T> field, const char* form)
+constexpr Row<R> ipv4(Member<R, T> field, const char* form)
 {
     static_assert(rows::is_bytes<T, 4>);
     return rows::value(field, form, Value::Form::ipv4);
 }
 
 template <class R, class T>
-constexpr Row<R> ipv6(Field<R, T> field, const char* form)
+constexpr Row<R> ipv6(Member<R, T> field, const char* form)
 {
     static_assert(rows::is_bytes<T, 16>);
     return rows::value(field, form, Value::Form::ipv6);
 }
 
 template <class R, class T>
-constexpr Row<R> serial(Field<R, T> field, const char* form)
+constexpr Row<R> serial(Member<R, T> field, const char* form)
 {
     static_assert(rows::is_bytes<T, 8>);
     return rows::value(field, form, Value::Form::serial);
 }
 
 template <class R, class T>
-constexpr Row<R> engine_id(Field<R, T> field, const char* form)
+constexpr Row<R> engine_id(Member<R, T> field, const char* form)
 {
     static_assert(rows::is_bytes<T, 13>);
     return rows::value(field, form, Value::Form::engine_id);
@@ -300,7 +287,7 @@ constexpr Row<R> engine_id(Field<R, T> field, const char* form)
 
 /// The characters of the field, as stored.
 template <class R, class T>
-constexpr Row<R> text(Field<R, T> field, const char* form)
+constexpr Row<R> text(Member<R, T> field, const char* form)
 {
     static_assert(std::is_same_v<std::remove_extent_t<T>, char> && std::is_array_v<T>);
     return rows::row(field, RowData::Kind::text, form);
@@ -308,7 +295,7 @@ constexpr Row<R> text(Field<R, T> field, const char* form)
 
 /// The same for a format in which the marker of the GPON port is renamed.
 template <class R, std::size_t N>
-constexpr Row<R> channel_format(Field<R, char[N]> field, const char* form)
+constexpr Row<R> channel_format(Member<R, char[N]> field, const char* form)
 {
     Row<R> row = text(field, form);
     row.data.how = Value::Form::channel_format;
@@ -317,17 +304,17 @@ constexpr Row<R> channel_format(Field<R, char[N]> field, const char* form)
 
 /// An ONT password: at most 10 characters, the last byte of the field is never read.
 template <class R, class T>
-constexpr Row<R> ont_password(Field<R, T> field, const char* form)
+constexpr Row<R> ont_password(Member<R, T> field, const char* form)
 {
     static_assert(std::is_same_v<T, char[11]>);
     Row<R> row = text(field, form);
-    row.data.size = 10;
+    row.data.size = row.data.compared = 10;
     return row;
 }
 
 /// The word of the device-wide registry in the vocabulary `type`.
 template <class R, class T>
-constexpr Row<R> enumeration(Field<R, T> field, const char* type, const char* form)
+constexpr Row<R> enumeration(Member<R, T> field, const char* type, const char* form)
 {
     static_assert(rows::is_number<T>);
     return rows::row(field, RowData::Kind::enum_word, form, type);
@@ -335,7 +322,7 @@ constexpr Row<R> enumeration(Field<R, T> field, const char* type, const char* fo
 
 /// The word of one of the library's own vocabularies.
 template <class R, class T>
-constexpr Row<R> word(Field<R, T> field, const char* (*vocabulary)(int), const char* form)
+constexpr Row<R> word(Member<R, T> field, const char* (*vocabulary)(int), const char* form)
 {
     static_assert(rows::is_number<T>);
     return rows::row(field, RowData::Kind::word, form, vocabulary);
@@ -343,7 +330,7 @@ constexpr Row<R> word(Field<R, T> field, const char* (*vocabulary)(int), const c
 
 /// A profile or template that the field refers to, by its name; nothing is emitted while the slot holds none.
 template <class R, class T>
-constexpr Row<R> reference(Field<R, T> field, const char* (*lookup)(int), const char* form)
+constexpr Row<R> reference(Member<R, T> field, const char* (*lookup)(int), const char* form)
 {
     static_assert(std::is_same_v<T, std::int16_t>);
     return rows::row(field, RowData::Kind::reference, form, lookup);

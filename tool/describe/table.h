@@ -10,16 +10,13 @@
 /// To add a record: write its table and DESCRIBE it above the record that holds it, or, when that one is in another
 /// file, declare it in records.h.
 
+#include "pon/member.h"
 #include "tool/describe/description.h"
 #include "tool/describe/records.h"
 
 #include <cstddef>
 #include <string_view>
 #include <type_traits>
-
-/// The field `member` of the struct `record`.
-#define AT(record, member)                                                                                             \
-    (::pondiff::tool::Member<record, decltype(record::member)>{#record, #member, offsetof(record, member)})
 
 /// Makes `name` the description of the struct `record` by the lines of `table`.
 #define DESCRIBE(record, name, table)                                                                                  \
@@ -28,13 +25,6 @@
     constexpr ::pondiff::tool::RecordOf<record> name(#record, table)
 
 namespace pondiff::tool {
-
-template <class Struct, class Type>
-struct Member {
-    std::string_view owner;
-    std::string_view name;
-    std::size_t offset;
-};
 
 /// No array is longer.
 constexpr std::size_t MAX_ELEMENTS = 4096;
@@ -50,7 +40,7 @@ constexpr Field single(Member<Struct, Type> member, Form form)
 {
     Field field{};
     field.name = member.name;
-    field.owner = member.owner;
+    field.owner = member.record;
     field.offset = static_cast<std::uint32_t>(member.offset);
     field.size = sizeof(Type);
     field.width = sizeof(Type);
@@ -64,7 +54,7 @@ template <class Struct, class Type, std::size_t N>
 constexpr Field array(Member<Struct, Type[N]> member, Form form, const char* plural)
 {
     static_assert(N <= MAX_ELEMENTS);
-    Field field = single(Member<Struct, Type>{member.owner, member.name, member.offset}, form);
+    Field field = single(Member<Struct, Type>{member.record, member.name, member.offset}, form);
     field.size = sizeof(Type[N]);
     field.count = N;
     field.array = true;

@@ -3,24 +3,24 @@
 namespace pondiff::tool {
 
 static constexpr Field channel_fields[] = {
-    number(AT(GPonOltChannelCfg, revision)),
-    boolean(AT(GPonOltChannelCfg, enabled)),
-    boolean(AT(GPonOltChannelCfg, fec_down)),
-    number(AT(GPonOltChannelCfg, max_ont_count)),
-    reference(AT(GPonOltChannelCfg, profile_olt_vlan), Reference::vlan),
-    reference(AT(GPonOltChannelCfg, profile_olt_address_table), Reference::address_table),
-    boolean(AT(GPonOltChannelCfg, use_custom_optics_settings)),
-    boolean(AT(GPonOltChannelCfg, mac_migration)),
-    record(AT(GPonOltChannelCfg, optics), optics_record),
-    number(AT(GPonOltChannelCfg, onus_range)),
-    boolean(AT(GPonOltChannelCfg, unknown_multicast_forward)),
-    enumeration(AT(GPonOltChannelCfg, unknown_multicast_forward_gem_port), "GPonGEMPortType_enum"),
+    number(FIELD(GPonOltChannelCfg, revision)),
+    boolean(FIELD(GPonOltChannelCfg, enabled)),
+    boolean(FIELD(GPonOltChannelCfg, fec_down)),
+    number(FIELD(GPonOltChannelCfg, max_ont_count)),
+    reference(FIELD(GPonOltChannelCfg, profile_olt_vlan), Reference::vlan),
+    reference(FIELD(GPonOltChannelCfg, profile_olt_address_table), Reference::address_table),
+    boolean(FIELD(GPonOltChannelCfg, use_custom_optics_settings)),
+    boolean(FIELD(GPonOltChannelCfg, mac_migration)),
+    record(FIELD(GPonOltChannelCfg, optics), optics_record),
+    number(FIELD(GPonOltChannelCfg, onus_range)),
+    boolean(FIELD(GPonOltChannelCfg, unknown_multicast_forward)),
+    enumeration(FIELD(GPonOltChannelCfg, unknown_multicast_forward_gem_port), "GPonGEMPortType_enum"),
 };
 DESCRIBE(GPonOltChannelCfg, channel_record, channel_fields);
 
 static constexpr Field olt_fields[] = {
-    record(AT(GPonOltCfg, general), olt_general_record),
-    record(AT(GPonOltCfg, channel), channel_record, "GPON ports"),
+    record(FIELD(GPonOltCfg, general), olt_general_record),
+    record(FIELD(GPonOltCfg, channel), channel_record, "GPON ports"),
 };
 DESCRIBE(GPonOltCfg, olt_record, olt_fields);
 

@@ -3,16 +3,16 @@
 namespace pondiff::tool {
 
 static constexpr Field management_profile_fields[] = {
-    number(AT(GPonProfileOntManagement, revision)),
-    boolean(AT(GPonProfileOntManagement, exist)),
-    text(AT(GPonProfileOntManagement, name)),
-    text(AT(GPonProfileOntManagement, description)),
-    boolean(AT(GPonProfileOntManagement, enable_omci_configuration)),
-    text(AT(GPonProfileOntManagement, url)),
-    text(AT(GPonProfileOntManagement, username)),
-    secret(AT(GPonProfileOntManagement, password)),
-    text(AT(GPonProfileOntManagement, ont_config_version)),
-    text(AT(GPonProfileOntManagement, ont_config_file)),
+    number(FIELD(GPonProfileOntManagement, revision)),
+    boolean(FIELD(GPonProfileOntManagement, exist)),
+    text(FIELD(GPonProfileOntManagement, name)),
+    text(FIELD(GPonProfileOntManagement, description)),
+    boolean(FIELD(GPonProfileOntManagement, enable_omci_configuration)),
+    text(FIELD(GPonProfileOntManagement, url)),
+    text(FIELD(GPonProfileOntManagement, username)),
+    secret(FIELD(GPonProfileOntManagement, password)),
+    text(FIELD(GPonProfileOntManagement, ont_config_version)),
+    text(FIELD(GPonProfileOntManagement, ont_config_file)),
 };
 DESCRIBE(GPonProfileOntManagement, management_profile_record, management_profile_fields);
 

@@ -3,13 +3,13 @@
 namespace pondiff::tool {
 
 static constexpr Field profiles_ont_fields[] = {
-    record(AT(GPonProfilesOnt, shaping), shaping_profile_record, "shaping profiles"),
-    record(AT(GPonProfilesOnt, cross_connect), cross_connect_profile_record, "cross-connect profiles"),
-    record(AT(GPonProfilesOnt, alloc), alloc_profile_record, "allocation profiles"),
-    record(AT(GPonProfilesOnt, ports), ports_profile_record, "ports profiles"),
-    record(AT(GPonProfilesOnt, management), management_profile_record, "management profiles"),
-    record(AT(GPonProfilesOnt, template_ont), template_record, "templates"),
-    record(AT(GPonProfilesOnt, voice), voice_profile_record, "voice profiles"),
+    record(FIELD(GPonProfilesOnt, shaping), shaping_profile_record, "shaping profiles"),
+    record(FIELD(GPonProfilesOnt, cross_connect), cross_connect_profile_record, "cross-connect profiles"),
+    record(FIELD(GPonProfilesOnt, alloc), alloc_profile_record, "allocation profiles"),
+    record(FIELD(GPonProfilesOnt, ports), ports_profile_record, "ports profiles"),
+    record(FIELD(GPonProfilesOnt, management), management_profile_record, "management profiles"),
+    record(FIELD(GPonProfilesOnt, template_ont), template_record, "templates"),
+    record(FIELD(GPonProfilesOnt, voice), voice_profile_record, "voice profiles"),
 };
 DESCRIBE(GPonProfilesOnt, profiles_ont_record, profiles_ont_fields);
 

@@ -3,23 +3,23 @@
 namespace pondiff::tool {
 
 static constexpr Field sip_fields[] = {
-    text(AT(GPonProfileOntVoiceSip, proxy)),
-    text(AT(GPonProfileOntVoiceSip, domain)),
-    text(AT(GPonProfileOntVoiceSip, outband_proxy)),
-    number(AT(GPonProfileOntVoiceSip, port)),
-    enumeration(AT(GPonProfileOntVoiceSip, proto), "GPonProfileOntVoiceSipProtocol_enum"),
-    number(AT(GPonProfileOntVoiceSip, expire_time)),
+    text(FIELD(GPonProfileOntVoiceSip, proxy)),
+    text(FIELD(GPonProfileOntVoiceSip, domain)),
+    text(FIELD(GPonProfileOntVoiceSip, outband_proxy)),
+    number(FIELD(GPonProfileOntVoiceSip, port)),
+    enumeration(FIELD(GPonProfileOntVoiceSip, proto), "GPonProfileOntVoiceSipProtocol_enum"),
+    number(FIELD(GPonProfileOntVoiceSip, expire_time)),
 };
 DESCRIBE(GPonProfileOntVoiceSip, sip_record, sip_fields);
 
 static constexpr Field voice_profile_fields[] = {
-    number(AT(GPonProfileOntVoice, revision)),
-    boolean(AT(GPonProfileOntVoice, exist)),
-    text(AT(GPonProfileOntVoice, name)),
-    text(AT(GPonProfileOntVoice, description)),
-    record(AT(GPonProfileOntVoice, sip), sip_record),
-    text(AT(GPonProfileOntVoice, ont_config_version)),
-    text(AT(GPonProfileOntVoice, ont_config_file)),
+    number(FIELD(GPonProfileOntVoice, revision)),
+    boolean(FIELD(GPonProfileOntVoice, exist)),
+    text(FIELD(GPonProfileOntVoice, name)),
+    text(FIELD(GPonProfileOntVoice, description)),
+    record(FIELD(GPonProfileOntVoice, sip), sip_record),
+    text(FIELD(GPonProfileOntVoice, ont_config_version)),
+    text(FIELD(GPonProfileOntVoice, ont_config_file)),
 };
 DESCRIBE(GPonProfileOntVoice, voice_profile_record, voice_profile_fields);
 

@@ -3,40 +3,40 @@
 namespace pondiff::tool {
 
 static constexpr Field allow_fields[] = {
-    ipv4(AT(GSystemServiceAllow, ip)),
-    number(AT(GSystemServiceAllow, mask)),
+    ipv4(FIELD(GSystemServiceAllow, ip)),
+    number(FIELD(GSystemServiceAllow, mask)),
 };
 DESCRIBE(GSystemServiceAllow, allow_record, allow_fields);
 
 static constexpr Field http_fields[] = {
-    number(AT(GSystemHttpCfg, revision)),
-    boolean(AT(GSystemHttpCfg, enabled)),
-    boolean(AT(GSystemHttpCfg, access_control)),
-    record(AT(GSystemHttpCfg, allow), allow_record, "allow-list entries"),
+    number(FIELD(GSystemHttpCfg, revision)),
+    boolean(FIELD(GSystemHttpCfg, enabled)),
+    boolean(FIELD(GSystemHttpCfg, access_control)),
+    record(FIELD(GSystemHttpCfg, allow), allow_record, "allow-list entries"),
 };
 DESCRIBE(GSystemHttpCfg, http_record, http_fields);
 
 static constexpr Field https_fields[] = {
-    number(AT(GSystemHttpsCfg, revision)),
-    boolean(AT(GSystemHttpsCfg, enabled)),
-    boolean(AT(GSystemHttpsCfg, access_control)),
-    record(AT(GSystemHttpsCfg, allow), allow_record, "allow-list entries"),
+    number(FIELD(GSystemHttpsCfg, revision)),
+    boolean(FIELD(GSystemHttpsCfg, enabled)),
+    boolean(FIELD(GSystemHttpsCfg, access_control)),
+    record(FIELD(GSystemHttpsCfg, allow), allow_record, "allow-list entries"),
 };
 DESCRIBE(GSystemHttpsCfg, https_record, https_fields);
 
 static constexpr Field telnet_fields[] = {
-    number(AT(GSystemTelnetCfg, revision)),
-    boolean(AT(GSystemTelnetCfg, enabled)),
-    boolean(AT(GSystemTelnetCfg, access_control)),
-    record(AT(GSystemTelnetCfg, allow), allow_record, "allow-list entries"),
+    number(FIELD(GSystemTelnetCfg, revision)),
+    boolean(FIELD(GSystemTelnetCfg, enabled)),
+    boolean(FIELD(GSystemTelnetCfg, access_control)),
+    record(FIELD(GSystemTelnetCfg, allow), allow_record, "allow-list entries"),
 };
 DESCRIBE(GSystemTelnetCfg, telnet_record, telnet_fields);
 
 static constexpr Field ssh_fields[] = {
-    number(AT(GSystemSshCfg, revision)),
-    boolean(AT(GSystemSshCfg, enabled)),
-    boolean(AT(GSystemSshCfg, access_control)),
-    record(AT(GSystemSshCfg, allow), allow_record, "allow-list entries"),
+    number(FIELD(GSystemSshCfg, revision)),
+    boolean(FIELD(GSystemSshCfg, enabled)),
+    boolean(FIELD(GSystemSshCfg, access_control)),
+    record(FIELD(GSystemSshCfg, allow), allow_record, "allow-list entries"),
 };
 DESCRIBE(GSystemSshCfg, ssh_record, ssh_fields);
 

@@ -3,12 +3,12 @@
 namespace pondiff::tool {
 
 static constexpr Field ntp_fields[] = {
-    number(AT(GSystemNtpCfg, revision)),
-    boolean(AT(GSystemNtpCfg, enabled)),
-    ipv4(AT(GSystemNtpCfg, ntpserver)),
-    number(AT(GSystemNtpCfg, interval)),
-    number(AT(GSystemNtpCfg, timezone)),
-    boolean(AT(GSystemNtpCfg, daylightsaving)),
+    number(FIELD(GSystemNtpCfg, revision)),
+    boolean(FIELD(GSystemNtpCfg, enabled)),
+    ipv4(FIELD(GSystemNtpCfg, ntpserver)),
+    number(FIELD(GSystemNtpCfg, interval)),
+    number(FIELD(GSystemNtpCfg, timezone)),
+    boolean(FIELD(GSystemNtpCfg, daylightsaving)),
 };
 DESCRIBE(GSystemNtpCfg, ntp_record, ntp_fields);
 

@@ -3,16 +3,16 @@
 namespace pondiff::tool {
 
 static constexpr Field route_fields[] = {
-    boolean(AT(GSystemRouteCfg, exist)),
-    ipv4(AT(GSystemRouteCfg, prefix)),
-    number(AT(GSystemRouteCfg, mask)),
-    ipv4(AT(GSystemRouteCfg, gateway)),
+    boolean(FIELD(GSystemRouteCfg, exist)),
+    ipv4(FIELD(GSystemRouteCfg, prefix)),
+    number(FIELD(GSystemRouteCfg, mask)),
+    ipv4(FIELD(GSystemRouteCfg, gateway)),
 };
 DESCRIBE(GSystemRouteCfg, route_record, route_fields);
 
 static constexpr Field routing_fields[] = {
-    number(AT(GSystemRoutingCfg, revision)),
-    record(AT(GSystemRoutingCfg, route), route_record, "routes"),
+    number(FIELD(GSystemRoutingCfg, revision)),
+    record(FIELD(GSystemRoutingCfg, route), route_record, "routes"),
 };
 DESCRIBE(GSystemRoutingCfg, routing_record, routing_fields);
 

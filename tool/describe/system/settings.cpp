@@ -3,14 +3,14 @@
 namespace pondiff::tool {
 
 static constexpr Field privilege_level_fields[] = {
-    number(AT(GSystemPrivilegeLevel, privilege), "privileges"),
+    number(FIELD(GSystemPrivilegeLevel, privilege), "privileges"),
 };
 DESCRIBE(GSystemPrivilegeLevel, privilege_level_record, privilege_level_fields);
 
 static constexpr Field common_settings_fields[] = {
-    number(AT(GSystemCommonSettings, revision)),
-    enumeration(AT(GSystemCommonSettings, ont_sn_format), "GOntSnDisplayFormatType_enum"),
-    record(AT(GSystemCommonSettings, level), privilege_level_record, "privilege levels"),
+    number(FIELD(GSystemCommonSettings, revision)),
+    enumeration(FIELD(GSystemCommonSettings, ont_sn_format), "GOntSnDisplayFormatType_enum"),
+    record(FIELD(GSystemCommonSettings, level), privilege_level_record, "privilege levels"),
 };
 DESCRIBE(GSystemCommonSettings, common_settings_record, common_settings_fields);
 

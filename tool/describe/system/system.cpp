@@ -3,78 +3,78 @@
 namespace pondiff::tool {
 
 static constexpr Field acs_fields[] = {
-    number(AT(GSystemAcsCfg, revision)),
-    boolean(AT(GSystemAcsCfg, enabled)),
-    number(AT(GSystemAcsCfg, port)),
-    silent(text(AT(GSystemAcsCfg, path))),
-    silent(text(AT(GSystemAcsCfg, scheme))),
-    silent(text(AT(GSystemAcsCfg, login))),
-    silent(secret(AT(GSystemAcsCfg, password))),
-    ipv4(AT(GSystemAcsCfg, external_fw_ip)),
-    number(AT(GSystemAcsCfg, external_fw_port)),
-    number(AT(GSystemAcsCfg, local_fw_port)),
-    boolean(AT(GSystemAcsCfg, dhcp_server_enabled)),
-    ipv4(AT(GSystemAcsCfg, dhcp_ip_range_first)),
-    ipv4(AT(GSystemAcsCfg, dhcp_ip_range_last)),
-    number(AT(GSystemAcsCfg, dhcp_max_lease_time)),
-    boolean(AT(GSystemAcsCfg, dhcp_insert_option43)),
+    number(FIELD(GSystemAcsCfg, revision)),
+    boolean(FIELD(GSystemAcsCfg, enabled)),
+    number(FIELD(GSystemAcsCfg, port)),
+    silent(text(FIELD(GSystemAcsCfg, path))),
+    silent(text(FIELD(GSystemAcsCfg, scheme))),
+    silent(text(FIELD(GSystemAcsCfg, login))),
+    silent(secret(FIELD(GSystemAcsCfg, password))),
+    ipv4(FIELD(GSystemAcsCfg, external_fw_ip)),
+    number(FIELD(GSystemAcsCfg, external_fw_port)),
+    number(FIELD(GSystemAcsCfg, local_fw_port)),
+    boolean(FIELD(GSystemAcsCfg, dhcp_server_enabled)),
+    ipv4(FIELD(GSystemAcsCfg, dhcp_ip_range_first)),
+    ipv4(FIELD(GSystemAcsCfg, dhcp_ip_range_last)),
+    number(FIELD(GSystemAcsCfg, dhcp_max_lease_time)),
+    boolean(FIELD(GSystemAcsCfg, dhcp_insert_option43)),
 };
 DESCRIBE(GSystemAcsCfg, acs_record, acs_fields);
 
 static constexpr Field auth_server_fields[] = {
-    ipv4(AT(GSystemAuthNetCfg, ip)),
-    number(AT(GSystemAuthNetCfg, port)),
-    number(AT(GSystemAuthNetCfg, timeout)),
-    silent(secret(AT(GSystemAuthNetCfg, secret))),
+    ipv4(FIELD(GSystemAuthNetCfg, ip)),
+    number(FIELD(GSystemAuthNetCfg, port)),
+    number(FIELD(GSystemAuthNetCfg, timeout)),
+    silent(secret(FIELD(GSystemAuthNetCfg, secret))),
 };
 DESCRIBE(GSystemAuthNetCfg, auth_server_record, auth_server_fields);
 
 static constexpr Field auth_fields[] = {
-    number(AT(GSystemAuthCfg, revision)),
-    enumeration(AT(GSystemAuthCfg, authtype), "GAuthType_enum"),
-    enumeration(AT(GSystemAuthCfg, accounting), "GAuthType_enum"),
-    boolean(AT(GSystemAuthCfg, accounting_cmd)),
-    boolean(AT(GSystemAuthCfg, authorization)),
-    record(AT(GSystemAuthCfg, server), auth_server_record),
-    record(AT(GSystemAuthCfg, radius_server), auth_server_record),
+    number(FIELD(GSystemAuthCfg, revision)),
+    enumeration(FIELD(GSystemAuthCfg, authtype), "GAuthType_enum"),
+    enumeration(FIELD(GSystemAuthCfg, accounting), "GAuthType_enum"),
+    boolean(FIELD(GSystemAuthCfg, accounting_cmd)),
+    boolean(FIELD(GSystemAuthCfg, authorization)),
+    record(FIELD(GSystemAuthCfg, server), auth_server_record),
+    record(FIELD(GSystemAuthCfg, radius_server), auth_server_record),
 };
 DESCRIBE(GSystemAuthCfg, auth_record, auth_fields);
 
 static constexpr Field fan_fields[] = {
-    number(AT(GSystemFanCfg, revision)),
-    number(AT(GSystemFanCfg, speed_table), "temperature steps"),
-    number(AT(GSystemFanCfg, fixed_speed)),
-    number(AT(GSystemFanCfg, min_speed)),
+    number(FIELD(GSystemFanCfg, revision)),
+    number(FIELD(GSystemFanCfg, speed_table), "temperature steps"),
+    number(FIELD(GSystemFanCfg, fixed_speed)),
+    number(FIELD(GSystemFanCfg, min_speed)),
 };
 DESCRIBE(GSystemFanCfg, fan_record, fan_fields);
 
 static constexpr Field services_fields[] = {
-    record(AT(GSystemServices, http), http_record),
-    record(AT(GSystemServices, https), https_record),
-    record(AT(GSystemServices, telnet), telnet_record),
-    record(AT(GSystemServices, ssh), ssh_record),
-    record(AT(GSystemServices, snmp), snmp_record),
-    record(AT(GSystemServices, syslog), syslog_record),
-    record(AT(GSystemServices, ntp), ntp_record),
-    record(AT(GSystemServices, alarm), alarm_record),
-    record(AT(GSystemServices, web), web_record),
-    record(AT(GSystemServices, cli), cli_record),
-    record(AT(GSystemServices, log), log_record),
-    record(AT(GSystemServices, tftp), tftp_record),
-    record(AT(GSystemServices, config), config_record),
-    record(AT(GSystemServices, acs), acs_record),
-    record(AT(GSystemServices, auth), auth_record),
-    record(AT(GSystemServices, fan), fan_record),
-    record(AT(GSystemServices, routing), routing_record),
-    record(AT(GSystemServices, source_guard), source_guard_record),
+    record(FIELD(GSystemServices, http), http_record),
+    record(FIELD(GSystemServices, https), https_record),
+    record(FIELD(GSystemServices, telnet), telnet_record),
+    record(FIELD(GSystemServices, ssh), ssh_record),
+    record(FIELD(GSystemServices, snmp), snmp_record),
+    record(FIELD(GSystemServices, syslog), syslog_record),
+    record(FIELD(GSystemServices, ntp), ntp_record),
+    record(FIELD(GSystemServices, alarm), alarm_record),
+    record(FIELD(GSystemServices, web), web_record),
+    record(FIELD(GSystemServices, cli), cli_record),
+    record(FIELD(GSystemServices, log), log_record),
+    record(FIELD(GSystemServices, tftp), tftp_record),
+    record(FIELD(GSystemServices, config), config_record),
+    record(FIELD(GSystemServices, acs), acs_record),
+    record(FIELD(GSystemServices, auth), auth_record),
+    record(FIELD(GSystemServices, fan), fan_record),
+    record(FIELD(GSystemServices, routing), routing_record),
+    record(FIELD(GSystemServices, source_guard), source_guard_record),
 };
 DESCRIBE(GSystemServices, services_record, services_fields);
 
 static constexpr Field system_fields[] = {
-    record(AT(GSystemCfg, network), system_network_record),
-    record(AT(GSystemCfg, user), user_record, "users"),
-    record(AT(GSystemCfg, services), services_record),
-    record(AT(GSystemCfg, settings), common_settings_record),
+    record(FIELD(GSystemCfg, network), system_network_record),
+    record(FIELD(GSystemCfg, user), user_record, "users"),
+    record(FIELD(GSystemCfg, services), services_record),
+    record(FIELD(GSystemCfg, settings), common_settings_record),
 };
 DESCRIBE(GSystemCfg, system_record, system_fields);
 
