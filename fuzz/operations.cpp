@@ -3,6 +3,7 @@
 #include "fuzz/checks.h"
 #include "pon/DataToCommandsConvertor.h"
 #include "pon/command_file_generator.h"
+#include "tests/support/elements.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -37,12 +38,7 @@ Texts elements(bool (*diff)(Record*, Record*, int*, List<char>&), Record* orig, 
     List<char> list;
     int key[10] = {};
     check(!diff(orig, cfg, key, list), "a record diff gave true");
-    Texts texts;
-    for (const ListElem<char>* node = list.begin(); node != nullptr; node = node->next) {
-        texts.emplace_back(node->elem);
-        std::free(node->elem);
-    }
-    return texts;
+    return take_elements(list);
 }
 
 /// Nothing is written to it.

@@ -59,16 +59,8 @@ bool is_part_of(const std::vector<Placed>& some, const std::vector<Placed>& all)
 
 Elements take(List<char>& list)
 {
-    Elements elements;
-    const ListElem<char>* last = nullptr;
-    for (const ListElem<char>* node = list.begin(); node != nullptr; node = node->next) {
-        last = node;
-        elements.emplace_back(node->elem);
-        std::free(node->elem);
-    }
-    EXPECT_EQ(list.last, last);
-    EXPECT_EQ(list.size(), static_cast<int>(elements.size()));
-    return elements;
+    EXPECT_TRUE(is_sound(list));
+    return take_elements(list);
 }
 
 /// A blank configuration and a full one, and a session over them that forces everything.

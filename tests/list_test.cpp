@@ -12,20 +12,13 @@ namespace {
 static_assert(!std::is_copy_constructible<List<char>>::value, "a list owns its nodes");
 static_assert(!std::is_copy_assignable<List<char>>::value, "a list owns its nodes");
 
-/// The elements from the first to the last; checks that the three fields agree with one another.
+/// The elements from the first to the last; checks that the list agrees with them.
 Elements elements(List<char>& list)
 {
-    Elements found;
-    ListElem<char>* last = nullptr;
-    for (ListElem<char>* node = list.begin(); node; node = node->next) {
-        found.emplace_back(node->elem);
-        last = node;
-    }
+    EXPECT_TRUE(is_sound(list));
     EXPECT_EQ(list.first, list.begin());
-    EXPECT_EQ(list.last, last);
-    EXPECT_EQ(list.lsize, static_cast<int>(found.size()));
     EXPECT_EQ(list.size(), list.lsize);
-    return found;
+    return elements_of(list);
 }
 
 char a[] = "a";
@@ -36,12 +29,6 @@ char empty[] = "";
 bool push(List<char>& list, const std::string& text)
 {
     return pondiff::push(list, text.data(), text.size());
-}
-
-void free_texts(List<char>& list)
-{
-    for (ListElem<char>* node = list.begin(); node; node = node->next)
-        std::free(node->elem);
 }
 
 } // namespace
@@ -216,7 +203,7 @@ TEST(PushedTexts, AListOfOthersGetsEveryElement)
     EXPECT_TRUE(push(list, "\nexit"));
     EXPECT_TRUE(push(list, "exit"));
     EXPECT_EQ(elements(list), Elements({"configure terminal\nip", "", "\nexit", "exit"}));
-    free_texts(list);
+    take_elements(list);
 }
 
 TEST(PushedTexts, AreCopiesOfTheStatedSize)
@@ -226,7 +213,7 @@ TEST(PushedTexts, AreCopiesOfTheStatedSize)
     EXPECT_TRUE(pondiff::push(list, text, 4));
     text[0] = 'X';
     EXPECT_EQ(elements(list), Elements({"exit"}));
-    free_texts(list);
+    take_elements(list);
 }
 
 TEST(PushedTexts, AnOperationsListBecomesLinesWithoutEmptiesAndLineFeeds)
@@ -268,7 +255,7 @@ TEST(PushedTexts, AnOperationThatNeverHandsItsTextOverReleasesIt)
     EXPECT_EQ(Script::of(list), nullptr);
     EXPECT_TRUE(push(list, ""));
     EXPECT_EQ(elements(list), Elements({""})) << "the list is an ordinary one again";
-    free_texts(list);
+    take_elements(list);
 }
 
 TEST(PushedTexts, AListOfOthersStaysWholeWhileAnOperationIsUnderWay)
@@ -282,7 +269,7 @@ TEST(PushedTexts, AListOfOthersStaysWholeWhileAnOperationIsUnderWay)
     EXPECT_TRUE(push(list, "mine"));
     EXPECT_EQ(elements(other), Elements({"", "\nother"}));
     EXPECT_EQ(taken(script.release()), "mine\n");
-    free_texts(other);
+    take_elements(other);
 }
 
 TEST(PushedTexts, AnOperationWithinAnotherHasItsOwnText)

@@ -7,7 +7,6 @@
 #include "tests/support/diff.h"
 
 #include <cstdio>
-#include <cstdlib>
 #include <string>
 #include <type_traits>
 #include <utility>
@@ -43,17 +42,7 @@ class Rows : public testing::Test {
     {
         List<char> list;
         emit_changed(row, changed_only, &before, &after, {"root", key, list, lead});
-        return taken(list);
-    }
-
-    static Elements taken(List<char>& list)
-    {
-        Elements elements;
-        for (ListElem<char>* node = list.begin(); node; node = node->next) {
-            elements.emplace_back(node->elem);
-            std::free(node->elem);
-        }
-        return elements;
+        return take_elements(list);
     }
 
     Session session;
@@ -256,7 +245,7 @@ TEST_F(Rows, AnUnknownViewIsSaidAndTheCommandsFollowWithoutNavigation)
     EXPECT_TRUE(emit({"nowhere", key, list}, "plain %d", 5));
     EXPECT_EQ(testing::internal::GetCapturedStdout(), "\n\n\n\nVIEW nowhere NOT FOUND!!!!!!!!!!!!!!\n\n\n"
                                                       "\n\n\n\nVIEW nowhere NOT FOUND!!!!!!!!!!!!!!\n\n\n");
-    EXPECT_EQ(taken(list), (Elements{"", "cos 7", "", "plain 5"}));
+    EXPECT_EQ(take_elements(list), (Elements{"", "cos 7", "", "plain 5"}));
     EXPECT_STREQ(current_view.name, "root");
 }
 
@@ -358,7 +347,7 @@ TEST_F(Rows, ALongLineWithoutMemoryIsLeftOut)
         emit_changed(text(FIELD(Everything, book), "$ID1 <%s>"), changed_only, &before, &after, {"root", key, list});
         EXPECT_TRUE(failure.happened());
     }
-    EXPECT_EQ(taken(list), Elements{""});
+    EXPECT_EQ(take_elements(list), Elements{""});
 }
 
 /// Longer than the room in which the text of an operation is built.
@@ -372,7 +361,7 @@ TEST_F(Rows, ALongLineOfAnOperationIsWhole)
     EXPECT_TRUE(emit(where, "%s", line.c_str()));
     EXPECT_TRUE(emit(where, "<%s>", longer.c_str()));
     EXPECT_TRUE(emit(where, "last"));
-    EXPECT_EQ(::taken(operation.finish(Ending::plain)), "first\n" + line + "\n<" + longer + ">\nlast\n");
+    EXPECT_EQ(taken(operation.finish(Ending::plain)), "first\n" + line + "\n<" + longer + ">\nlast\n");
 }
 
 TEST_F(Rows, ALongLineOfAnOperationWithoutMemoryLosesTheText)

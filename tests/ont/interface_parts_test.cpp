@@ -1,7 +1,5 @@
 #include "tests/support/diff.h"
 
-#include <cstdlib>
-
 namespace {
 
 template <class Record>
@@ -102,9 +100,7 @@ TEST(OntCustomCrossConnect, ReturnsAByte)
     after.exist = 1;
     after.vid = 100;
     EXPECT_EQ(getdiff_GPonOntCustomCrossConnect(&before, &after, key, out), 0) << "with commands too";
-    EXPECT_EQ(out.size(), 2);
-    for (ListElem<char>* node = out.begin(); node; node = node->next)
-        std::free(node->elem);
+    EXPECT_EQ(take_elements(out).size(), 2U);
 }
 
 // ------------------------------------------------------------------------------------------------------ UNI ports

@@ -207,8 +207,7 @@ TEST_F(OntTunnel, NeighboursOfTheListAreLeftAlone)
         List<char> out;
         int key[10] = {};
         getdiff_GPonOntSelectiveTunnel(&ont.tunnel[service], &ont.tunnel[service], key, out);
-        for (ListElem<char>* node = out.begin(); node; node = node->next)
-            std::free(node->elem);
+        take_elements(out);
         EXPECT_EQ(std::memcmp(&ont, &expected, sizeof ont), 0);
     }
     current_view = {};

@@ -1,8 +1,6 @@
 #include "tests/profiles_ont/profile_test.h"
 #include "tests/support/allocation.h"
 
-#include <cstdlib>
-
 namespace {
 
 using Profile = GPonProfileOntShaping;
@@ -336,10 +334,7 @@ StormRun run_storm(Storm before, Storm after, int granted)
         const LimitedAllocations limit(granted);
         run.status = getdiff_GPonOntStormControl(&before, &after, key, list);
     }
-    for (ListElem<char>* node = list.begin(); node; node = node->next) {
-        run.elements.emplace_back(node->elem);
-        std::free(node->elem);
-    }
+    run.elements = take_elements(list);
     current_view.name = "root";
     return run;
 }

@@ -47,17 +47,6 @@ class Placed {
     char* at_;
 };
 
-Elements take_all(List<char>& list)
-{
-    Elements elements;
-    for (ListElem<char>* node = list.begin(); node; node = node->next) {
-        elements.emplace_back(node->elem);
-        std::free(node->elem);
-    }
-    list.clear();
-    return elements;
-}
-
 } // namespace
 
 Elements DiffRun::run(const Function& function, void* before, void* after, std::size_t size)
@@ -74,7 +63,7 @@ Elements DiffRun::run(const Function& function, void* before, void* after, std::
         print_common = common;
         List<char> list;
         function(lhs.get(), rhs.get(), keys[odd], list);
-        results[odd] = take_all(list);
+        results[odd] = take_elements(list);
         EXPECT_FALSE(lhs.differs_from(before)) << "the old record was changed";
         if (!may_sort) {
             EXPECT_FALSE(rhs.differs_from(after)) << "the new record was changed";

@@ -11,6 +11,7 @@
 #include "pon/DataToCommandsConvertor.h"
 #include "pon/command_file_generator.h"
 #include "pon/diff_builder.h"
+#include "tests/support/elements.h"
 
 #include <cstring>
 #include <functional>
@@ -18,7 +19,6 @@
 #include <initializer_list>
 #include <memory>
 #include <string>
-#include <vector>
 
 /// Writes a text and zeroes the rest of the array; a text that fills the array has no terminator.
 template <std::size_t N>
@@ -37,8 +37,6 @@ void put(unsigned char (&field)[N], std::initializer_list<int> bytes)
     for (const int byte : bytes)
         field[i++] = static_cast<unsigned char>(byte);
 }
-
-using Elements = std::vector<std::string>;
 
 /// The lines that an operation makes of the elements of its list: each that is neither empty nor begins with a line
 /// feed, followed by one.
