@@ -162,12 +162,13 @@ TEST_F(Rows, TextsEndWithTheirArray)
     EXPECT_EQ(changed(ont_password(FIELD(Everything, password), "<%s>")), command_of("<eleven-cha>"));
 }
 
-TEST_F(Rows, TheLastByteOfAPasswordDoesNotCount)
+TEST_F(Rows, TheFirstBytesOfAPasswordAloneMayCount)
 {
     after.password[10] = 'x';
-    EXPECT_EQ(changed(ont_password(FIELD(Everything, password), "<%s>")), Elements{});
-    after.password[9] = 'y';
+    EXPECT_EQ(changed(ont_password(FIELD(Everything, password), "<%s>", 10)), Elements{});
     EXPECT_EQ(changed(ont_password(FIELD(Everything, password), "<%s>")), command_of("<>"));
+    after.password[9] = 'y';
+    EXPECT_EQ(changed(ont_password(FIELD(Everything, password), "<%s>", 10)), command_of("<>"));
 }
 
 TEST_F(Rows, Words)

@@ -302,13 +302,15 @@ constexpr Row<R> channel_format(Member<R, char[N]> field, const char* form)
     return row;
 }
 
-/// An ONT password: at most 10 characters, the last byte of the field is never read.
+/// An ONT password: at most 10 characters of it are shown. How many of its bytes count as a change differs: those that
+/// are shown in an ONT, all in a template.
 template <class R, class T>
-constexpr Row<R> ont_password(Member<R, T> field, const char* form)
+constexpr Row<R> ont_password(Member<R, T> field, const char* form, std::uint16_t compared = sizeof(T))
 {
     static_assert(std::is_same_v<T, char[11]>);
     Row<R> row = text(field, form);
-    row.data.size = row.data.compared = 10;
+    row.data.size = 10;
+    row.data.compared = compared;
     return row;
 }
 

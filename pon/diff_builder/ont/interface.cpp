@@ -39,7 +39,7 @@ void emit_settings(GPonOntCfg* lhs, GPonOntCfg* rhs, int* key, List<char>& out)
         text(FIELD(GPonOntCfg, description), "description \"%s\""),
         on_off(FIELD(GPonOntCfg, enabled), "no shutdown", "shutdown"),
         serial(FIELD(GPonOntCfg, serial), "serial \"%s\""),
-        ont_password(FIELD(GPonOntCfg, password), "password \"%s\""),
+        ont_password(FIELD(GPonOntCfg, password), "password \"%s\"", 10),
         on_off(FIELD(GPonOntCfg, fec_up), "fec", "no fec"),
         on_off(FIELD(GPonOntCfg, pppoe_sessions_unlimit), "pppoe-sessions-unlimit", "no pppoe-sessions-unlimit"),
         on_off(FIELD(GPonOntCfg, downstream_broadcast), "broadcast-downstream", "no broadcast-downstream"),
