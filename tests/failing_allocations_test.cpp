@@ -3,7 +3,7 @@
 /// largest configuration.
 
 #include "pon/DataToCommandsConvertor/text.h"
-#include "pon/diff_builder/list.h"
+#include "pon/diff_builder/script.h"
 #include "tests/support/allocation.h"
 #include "tests/support/diff.h"
 #include "tests/support/record_diffs.h"
@@ -228,8 +228,7 @@ TEST(FailingAllocation, OfAnyNameLeavesAnEmptySession)
 
 TEST(FailingAllocation, OfAnOperationWithNothingToSayGivesNullToo)
 {
-    List<char> list;
-    pondiff::Script script(list);
+    pondiff::Script script;
     {
         const FailingAllocation failure(1, Failing::once);
         EXPECT_EQ(script.release(), nullptr);

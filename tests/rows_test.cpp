@@ -357,7 +357,7 @@ TEST_F(Rows, ALongLineOfAnOperationIsWhole)
     const std::string line(20000, 'l');
     const std::string longer(100000, 'm');
     Operation operation;
-    const Where where{"root", operation.key, operation.list};
+    const Where where{"root", operation.key, operation.script};
     EXPECT_TRUE(emit(where, "first"));
     EXPECT_TRUE(emit(where, "%s", line.c_str()));
     EXPECT_TRUE(emit(where, "<%s>", longer.c_str()));
@@ -371,7 +371,7 @@ TEST_F(Rows, ALongLineOfAnOperationWithoutMemoryLosesTheText)
     current_view = {"configure-view", {}};
     for (const Failing how : {Failing::once, Failing::from_then_on}) {
         Operation operation;
-        const Where where{"root", operation.key, operation.list};
+        const Where where{"root", operation.key, operation.script};
         EXPECT_TRUE(emit(where, "first"));
         {
             const FailingAllocation failure(1, how);
@@ -389,7 +389,7 @@ TEST_F(Rows, ALongRowOfAnOperationWithoutMemoryLosesTheText)
 {
     fill_book(after);
     Operation operation;
-    const Where where{"root", operation.key, operation.list};
+    const Where where{"root", operation.key, operation.script};
     for (int i = 0; i < 14; i++)
         EXPECT_TRUE(emit(where, "%s", std::string(1000, 'l').c_str())); // less room is left than the row needs
     const FailingAllocation failure(1, Failing::once);

@@ -29,10 +29,10 @@ char* pondiff::full_diff(GCfg* orig, GCfg* cfg, CommonSet set)
     Operation operation;
     if (orig && cfg) {
         if (print_common == common_records_only) {
-            diff_common_records(*orig, *cfg, set, operation.key, operation.list);
+            diff_common_records(*orig, *cfg, set, operation.key, operation.script);
         } else {
             const Comparison comparison(orig, cfg, sizeof *orig);
-            getdiff_GCfg(orig, cfg, operation.key, operation.list);
+            getdiff_GCfg(orig, cfg, operation.key, operation.script);
         }
     }
     operation.go_to("root");

@@ -6,15 +6,15 @@ namespace pondiff {
 
 void Operation::go_to(const char* view)
 {
-    navigate({view, key, list});
+    navigate({view, key, script});
 }
 
 char* Operation::finish(Ending ending)
 {
     constexpr char commit[] = "commit";
-    if (ending == Ending::commit && !script_.empty())
-        script_.append_line(commit, sizeof commit - 1);
-    char* const text = script_.release();
+    if (ending == Ending::commit && !script.empty())
+        script.append_line(commit, sizeof commit - 1);
+    char* const text = script.release();
     if (!text)
         current_view = before_;
     return text;

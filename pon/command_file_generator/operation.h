@@ -3,7 +3,7 @@
 
 #include "pon/DataToCommandsConvertor.h"
 #include "pon/diff_builder.h"
-#include "pon/diff_builder/list.h"
+#include "pon/diff_builder/script.h"
 
 namespace pondiff {
 
@@ -19,10 +19,9 @@ class Operation {
     char* finish(Ending ending);
 
     int key[10] = {};
-    List<char> list;
+    Script script;
 
   private:
-    Script script_{list};
     const view_state before_ = current_view;
 };
 

@@ -15,7 +15,7 @@ char* from_configure_view(Ending ending, Body body)
 {
     Operation operation;
     operation.go_to("configure-view");
-    body(operation.key, operation.list);
+    body(operation.key, operation.script);
     operation.go_to("root");
     return operation.finish(ending);
 }
@@ -116,14 +116,14 @@ void diff_block(const char* block, GCfg& orig, GCfg& cfg, int* key, List<char>& 
 char* GetSystemDiff(GSystemCfg_t* orig, GSystemCfg_t* cfg)
 {
     Operation operation;
-    getdiff_GSystemCfg(orig, cfg, operation.key, operation.list);
+    getdiff_GSystemCfg(orig, cfg, operation.key, operation.script);
     return operation.finish(Ending::plain);
 }
 
 char* GetPonDiff(GPonCfg_t* orig, GPonCfg_t* cfg)
 {
     Operation operation;
-    getdiff_GPonCfg(orig, cfg, operation.key, operation.list);
+    getdiff_GPonCfg(orig, cfg, operation.key, operation.script);
     return operation.finish(Ending::plain);
 }
 
@@ -146,7 +146,7 @@ char* GetGponChannelDiff(GPonOltChannelCfg_t* orig, GPonOltChannelCfg_t* cfg, in
 char* GetGPonProfilesOltDiff(GPonProfilesOlt_t* orig, GPonProfilesOlt_t* cfg)
 {
     Operation operation;
-    getdiff_GPonProfilesOlt(orig, cfg, operation.key, operation.list);
+    getdiff_GPonProfilesOlt(orig, cfg, operation.key, operation.script);
     operation.go_to("root");
     return operation.finish(Ending::commit);
 }
@@ -154,7 +154,7 @@ char* GetGPonProfilesOltDiff(GPonProfilesOlt_t* orig, GPonProfilesOlt_t* cfg)
 char* GetGPonProfilesOntDiff(GPonProfilesOnt_t* orig, GPonProfilesOnt_t* cfg)
 {
     Operation operation;
-    getdiff_GPonProfilesOnt(orig, cfg, operation.key, operation.list);
+    getdiff_GPonProfilesOnt(orig, cfg, operation.key, operation.script);
     operation.go_to("root");
     return operation.finish(Ending::commit);
 }
@@ -193,7 +193,7 @@ char* GetTerminalVlanHeaders()
     for (int i = 0; i < GCFG_TERMINAL_VLANS; ++i) {
         const char* const name = getTerminalVlanName(i);
         if (name && *name != '\0')
-            append(operation.list, "gpon network terminal-vlan \"%s\"", name);
+            append(operation.script, "gpon network terminal-vlan \"%s\"", name);
     }
     return operation.finish(Ending::plain);
 }

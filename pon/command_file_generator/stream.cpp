@@ -31,7 +31,7 @@ char* GetRoutesDiffMemSafe(GSystemRoutingCfg_t* orig, GSystemRoutingCfg_t* cfg, 
 {
     const PublishedStream stream(file);
     pondiff::Operation operation;
-    getdiff_GSystemRoutingCfg(orig, cfg, operation.key, operation.list);
+    getdiff_GSystemRoutingCfg(orig, cfg, operation.key, operation.script);
     operation.go_to("root");
     return operation.finish(pondiff::Ending::commit);
 }

@@ -94,6 +94,11 @@ Value channel_format(const char (&field)[N])
     return Value::text(field, N, Value::Form::channel_format);
 }
 
+/// Room for what each of the platform's converters may write, terminator included.
+constexpr std::size_t mac_size = 25;
+constexpr std::size_t serial_size = 24;
+constexpr std::size_t engine_id_size = 29;
+
 /// The registry's word for an enumeration value of which the low 16 bits count; never null.
 const char* enum_word(const char* type, std::int64_t value);
 

@@ -2,10 +2,7 @@
 
 #include "pon/DataToCommandsConvertor/placeholders.h"
 #include "pon/DataToCommandsConvertor/views.h"
-#include "pon/diff_builder/list.h"
-
-int print_all = 0;
-int print_common = 1;
+#include "pon/diff_builder/script.h"
 
 namespace pondiff {
 
@@ -86,23 +83,6 @@ void format_command(Text& line, const Where& where, const char* form, const Valu
 }
 
 } // namespace
-
-bool forced(Rule rule)
-{
-    if (print_all == 0)
-        return false;
-    switch (rule) {
-    case changed_or_all:
-        return true;
-    case changed_or_common:
-        return print_common == 1 || print_common == 2;
-    case changed_or_profile_common:
-        return print_common == 2;
-    case changed_only:
-        break;
-    }
-    return false;
-}
 
 bool navigate(const Where& where)
 {

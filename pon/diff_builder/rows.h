@@ -14,6 +14,7 @@
 #include "pon/diff_builder.h"
 #include "pon/diff_builder/comparison.h"
 #include "pon/diff_builder/formatting.h"
+#include "pon/diff_builder/switches.h"
 #include "pon/member.h"
 
 #include <cstddef>
@@ -25,16 +26,6 @@
 namespace pondiff {
 
 // ----------------------------------------------------------------------------------------------------------- rules
-
-/// When a field is emitted although it has not changed.
-enum Rule : std::uint8_t {
-    changed_or_all,            ///< whenever `print_all` is set
-    changed_or_common,         ///< `print_all`, and `print_common` is 1 or 2
-    changed_or_profile_common, ///< `print_all`, and `print_common` is 2
-    changed_only,              ///< never
-};
-
-bool forced(Rule rule);
 
 /// True when two records or byte arrays differ, or the rule forces them. Multi-byte scalars go through rows or are
 /// compared by value: they cannot be bound to a reference.

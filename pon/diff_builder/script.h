@@ -1,5 +1,5 @@
-#ifndef PON_DIFF_BUILDER_LIST_H
-#define PON_DIFF_BUILDER_LIST_H
+#ifndef PON_DIFF_BUILDER_SCRIPT_H
+#define PON_DIFF_BUILDER_SCRIPT_H
 
 #include "pon/diff_builder.h"
 
@@ -7,12 +7,13 @@
 
 namespace pondiff {
 
-/// The text of the operation under way. An operation of the library never looks at the single elements of its list, so
-/// what is pushed onto that list goes straight into the text: one line for each element that is neither empty nor
-/// begins with a line feed. Lists of other callers get every element.
-class Script {
+/// The list that an operation of the library hands to its record diffs. Nobody ever looks at its elements, so it keeps
+/// none: `push`, the one place that knows the two kinds of lists apart, puts what is meant for it straight into the
+/// text that the operation returns, one line for each element that is neither empty nor begins with a line feed. The
+/// list of a caller who calls a record diff himself gets every element.
+class Script : public List<char> {
   public:
-    explicit Script(const List<char>& list);
+    Script();
     ~Script();
     Script(const Script&) = delete;
     Script& operator=(const Script&) = delete;
@@ -39,11 +40,8 @@ class Script {
     /// Hands over the text, on the heap and with its terminator; null when part of it was lost.
     char* release();
 
-    /// The operation under way that collects in `list`; null for lists of other callers.
-    static Script* of(const List<char>& list)
-    {
-        return under_way_ && under_way_->list_ == &list ? under_way_ : nullptr;
-    }
+    /// The list as the script of the operation under way; null for every other list.
+    static Script* of(const List<char>& list) { return under_way_ == &list ? under_way_ : nullptr; }
     /// Notes that a text for the list could not be had.
     void lose() { failed_ = true; }
 
@@ -52,7 +50,6 @@ class Script {
 
     static Script* under_way_;
 
-    const List<char>* list_;
     Script* outer_;
     char* text_ = nullptr;
     std::size_t size_ = 0;
