@@ -9,6 +9,7 @@
 /// Fields are reached through offset and memcpy alone: most multi-byte fields of packed records are misaligned.
 
 #include "gcfg/gcfg.h"
+#include "tool/describe/syntax.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -81,6 +82,8 @@ struct Field {
     Form form;
     Layout layout;
     Reference reference;
+    Syntax syntax;   ///< how the CLI says it
+    Element element; ///< Form::record: what it adds to the commands of the record
 };
 
 /// The fields of a record in the order of its struct; they tile it.

@@ -12,6 +12,7 @@
 
 #include "pon/member.h"
 #include "tool/describe/description.h"
+#include "tool/describe/phrases.h"
 #include "tool/describe/records.h"
 
 #include <cstddef>
@@ -36,7 +37,7 @@ inline constexpr bool is_integer =
     std::is_integral_v<Type> && !std::is_same_v<Type, char> && !std::is_same_v<Type, bool> && sizeof(Type) <= 4;
 
 template <class Struct, class Type>
-constexpr Field single(Member<Struct, Type> member, Form form)
+constexpr Field single(Member<Struct, Type> member, Form form, const Syntax& syntax = {})
 {
     Field field{};
     field.name = member.name;
@@ -47,14 +48,15 @@ constexpr Field single(Member<Struct, Type> member, Form form)
     field.count = 1;
     field.is_signed = std::is_signed_v<Type>;
     field.form = form;
+    field.syntax = syntax;
     return field;
 }
 
 template <class Struct, class Type, std::size_t N>
-constexpr Field array(Member<Struct, Type[N]> member, Form form, const char* plural)
+constexpr Field array(Member<Struct, Type[N]> member, Form form, const Syntax& syntax, const char* plural)
 {
     static_assert(N <= MAX_ELEMENTS);
-    Field field = single(Member<Struct, Type>{member.record, member.name, member.offset}, form);
+    Field field = single(Member<Struct, Type>{member.record, member.name, member.offset}, form, syntax);
     field.size = sizeof(Type[N]);
     field.count = N;
     field.array = true;
@@ -67,88 +69,88 @@ constexpr Field array(Member<Struct, Type[N]> member, Form form, const char* plu
 // Where a field is an array, the last argument is what its elements are called.
 
 template <class Struct, class Type>
-constexpr Field number(Member<Struct, Type> member)
+constexpr Field number(Member<Struct, Type> member, const Syntax& syntax = {})
 {
     static_assert(is_integer<Type>, "an integer");
-    return single(member, Form::number);
+    return single(member, Form::number, syntax);
 }
 
 template <class Struct, class Type, std::size_t N>
-constexpr Field number(Member<Struct, Type[N]> member, const char* plural)
+constexpr Field number(Member<Struct, Type[N]> member, const Syntax& syntax, const char* plural)
 {
     static_assert(is_integer<Type>, "integers");
-    return array(member, Form::number, plural);
+    return array(member, Form::number, syntax, plural);
 }
 
 /// Numbers that -1 ends; a full array has no end mark.
 template <class Struct, class Type, std::size_t N>
-constexpr Field ended_list(Member<Struct, Type[N]> member, const char* plural)
+constexpr Field ended_list(Member<Struct, Type[N]> member, const Syntax& syntax, const char* plural)
 {
     static_assert(is_integer<Type> && std::is_signed_v<Type>, "integers, -1 among them");
-    Field field = array(member, Form::number, plural);
+    Field field = array(member, Form::number, syntax, plural);
     field.layout = Layout::ended_list;
     return field;
 }
 
 template <class Struct, class Type>
-constexpr Field boolean(Member<Struct, Type> member)
+constexpr Field boolean(Member<Struct, Type> member, const Syntax& syntax = {})
 {
     static_assert(is_integer<Type> && std::is_unsigned_v<Type>, "an unsigned integer");
-    return single(member, Form::boolean);
+    return single(member, Form::boolean, syntax);
 }
 
 template <class Struct, class Type, std::size_t N>
-constexpr Field boolean(Member<Struct, Type[N]> member, const char* plural)
+constexpr Field boolean(Member<Struct, Type[N]> member, const Syntax& syntax, const char* plural)
 {
     static_assert(is_integer<Type> && std::is_unsigned_v<Type>, "unsigned integers");
-    return array(member, Form::boolean, plural);
+    return array(member, Form::boolean, syntax, plural);
 }
 
 template <class Struct, class Type>
-constexpr Field hexadecimal(Member<Struct, Type> member)
+constexpr Field hexadecimal(Member<Struct, Type> member, const Syntax& syntax = {})
 {
     static_assert(is_integer<Type> && std::is_unsigned_v<Type>, "an unsigned integer");
-    return single(member, Form::hexadecimal);
+    return single(member, Form::hexadecimal, syntax);
 }
 
 /// `type` is the registry's name of the enumeration, "GBool_enum".
 template <class Struct, class Type>
-constexpr Field enumeration(Member<Struct, Type> member, const char* type)
+constexpr Field enumeration(Member<Struct, Type> member, const char* type, const Syntax& syntax = {})
 {
     static_assert(is_integer<Type> && std::is_unsigned_v<Type>, "an unsigned integer");
-    Field field = single(member, Form::enumeration);
+    Field field = single(member, Form::enumeration, syntax);
     field.enumeration = type;
     return field;
 }
 
 template <class Struct, class Type>
-constexpr Field reference(Member<Struct, Type> member, Reference to)
+constexpr Field reference(Member<Struct, Type> member, Reference to, const Syntax& syntax = {})
 {
     static_assert(is_integer<Type>, "an integer");
-    Field field = single(member, Form::reference);
+    Field field = single(member, Form::reference, syntax);
     field.reference = to;
     return field;
 }
 
 template <class Struct, class Type, std::size_t N>
-constexpr Field reference(Member<Struct, Type[N]> member, Reference to, const char* plural)
+constexpr Field reference(Member<Struct, Type[N]> member, Reference to, const Syntax& syntax, const char* plural)
 {
     static_assert(is_integer<Type>, "integers");
-    Field field = array(member, Form::reference, plural);
+    Field field = array(member, Form::reference, syntax, plural);
     field.reference = to;
     return field;
 }
 
 template <class Struct, std::size_t N>
-constexpr Field text(Member<Struct, char[N]> member)
+constexpr Field text(Member<Struct, char[N]> member, const Syntax& syntax = {})
 {
-    return single(member, Form::text);
+    return single(member, Form::text, syntax);
 }
 
 template <class Struct, std::size_t N>
-constexpr Field secret(Member<Struct, char[N]> member)
+constexpr Field secret(Member<Struct, char[N]> member, const Syntax& syntax = {})
 {
-    return single(member, Form::secret);
+    return single(member, Form::secret, syntax);
 }
 
 /// A text that no command shows: whatever it holds, a script is not concerned.
@@ -159,49 +161,58 @@ constexpr Field silent(Field field)
 }
 
 template <class Struct>
-constexpr Field ipv4(Member<Struct, GIPAddr_t> member)
+constexpr Field ipv4(Member<Struct, GIPAddr_t> member, const Syntax& syntax = {})
 {
-    return single(member, Form::ipv4);
+    return single(member, Form::ipv4, syntax);
 }
 
 template <class Struct>
-constexpr Field ipv6(Member<Struct, GIPV6Addr_t> member)
+constexpr Field ipv6(Member<Struct, GIPV6Addr_t> member, const Syntax& syntax = {})
 {
-    return single(member, Form::ipv6);
+    return single(member, Form::ipv6, syntax);
 }
 
 template <class Struct>
-constexpr Field mac(Member<Struct, GMACAddr_t> member)
+constexpr Field mac(Member<Struct, GMACAddr_t> member, const Syntax& syntax = {})
 {
-    return single(member, Form::mac);
+    return single(member, Form::mac, syntax);
 }
 
 template <class Struct>
-constexpr Field serial(Member<Struct, GOntSerial_t> member)
+constexpr Field serial(Member<Struct, GOntSerial_t> member, const Syntax& syntax = {})
 {
-    return single(member, Form::serial);
+    return single(member, Form::serial, syntax);
 }
 
 template <class Struct>
-constexpr Field engine_id(Member<Struct, GSNMPEngineID_t> member)
+constexpr Field engine_id(Member<Struct, GSNMPEngineID_t> member, const Syntax& syntax = {})
 {
-    return single(member, Form::engine_id);
+    return single(member, Form::engine_id, syntax);
 }
 
 template <class Struct, class Type>
-constexpr Field record(Member<Struct, Type> member, const RecordOf<Type>& described)
+constexpr Field record(Member<Struct, Type> member, const RecordOf<Type>& described, const Element& element = {})
 {
     Field field = single(member, Form::record);
     field.record = &described;
+    field.element = element;
+    return field;
+}
+
+template <class Struct, class Type, std::size_t N>
+constexpr Field record(Member<Struct, Type[N]> member, const RecordOf<Type>& described, const Element& element,
+                       const char* plural)
+{
+    Field field = array(member, Form::record, {}, plural);
+    field.record = &described;
+    field.element = element;
     return field;
 }
 
 template <class Struct, class Type, std::size_t N>
 constexpr Field record(Member<Struct, Type[N]> member, const RecordOf<Type>& described, const char* plural)
 {
-    Field field = array(member, Form::record, plural);
-    field.record = &described;
-    return field;
+    return record(member, described, Element{}, plural);
 }
 
 /// Records that hold one flag each, so many that they are written as a list of those that are set.

@@ -18,7 +18,7 @@ static constexpr Field redundancy_fields[] = {
     enumeration(FIELD(GPonOltGeneralRedundancyCfg, mode), "GOltRedundandancyMode_enum"),
     ipv4(FIELD(GPonOltGeneralRedundancyCfg, peer_ip)),
     number(FIELD(GPonOltGeneralRedundancyCfg, peer_port)),
-    boolean(FIELD(GPonOltGeneralRedundancyCfg, net_channel), "GPON ports"),
+    boolean(FIELD(GPonOltGeneralRedundancyCfg, net_channel), {}, "GPON ports"),
 };
 DESCRIBE(GPonOltGeneralRedundancyCfg, redundancy_record, redundancy_fields);
 
@@ -86,7 +86,7 @@ static constexpr Field encryption_fields[] = {
 DESCRIBE(GPonOntEncryption, encryption_record, encryption_fields);
 
 static constexpr Field short_cycle_fields[] = {
-    boolean(FIELD(GPonOltGeneralDBAShortCycle, gpon_port), "GPON ports"),
+    boolean(FIELD(GPonOltGeneralDBAShortCycle, gpon_port), {}, "GPON ports"),
 };
 DESCRIBE(GPonOltGeneralDBAShortCycle, short_cycle_record, short_cycle_fields);
 

@@ -11,7 +11,7 @@ static constexpr Field custom_cross_connect_fields[] = {
 DESCRIBE(GPonOntCustomCrossConnect, custom_cross_connect_record, custom_cross_connect_fields);
 
 static constexpr Field tunnel_fields[] = {
-    ended_list(FIELD(GPonOntSelectiveTunnel, uvid), "tunnel VLANs"),
+    ended_list(FIELD(GPonOntSelectiveTunnel, uvid), {}, "tunnel VLANs"),
 };
 DESCRIBE(GPonOntSelectiveTunnel, tunnel_record, tunnel_fields);
 
@@ -47,8 +47,8 @@ static constexpr Field ont_fields[] = {
     record(FIELD(GPonOntCfg, custom_cross_connect), custom_cross_connect_record, "services"),
     record(FIELD(GPonOntCfg, tunnel), tunnel_record, "services"),
     reference(FIELD(GPonOntCfg, profile_ont_shaping), Reference::shaping),
-    reference(FIELD(GPonOntCfg, profile_ont_cross_connect), Reference::cross_connect, "services"),
-    reference(FIELD(GPonOntCfg, profile_ont_alloc), Reference::alloc, "services"),
+    reference(FIELD(GPonOntCfg, profile_ont_cross_connect), Reference::cross_connect, {}, "services"),
+    reference(FIELD(GPonOntCfg, profile_ont_alloc), Reference::alloc, {}, "services"),
     reference(FIELD(GPonOntCfg, profile_ont_ports), Reference::ports),
     reference(FIELD(GPonOntCfg, profile_ont_voice), Reference::voice),
     reference(FIELD(GPonOntCfg, profile_ont_management), Reference::management),

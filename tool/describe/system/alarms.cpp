@@ -14,11 +14,11 @@ DESCRIBE(GSystemAlarmTypeCfg, alarm_type_record, alarm_type_fields);
 
 static constexpr Field alarm_thresholds_fields[] = {
     number(FIELD(GSystemAlarmSystemCfg, revision)),
-    number(FIELD(GSystemAlarmSystemCfg, load_average), "load averages"),
+    number(FIELD(GSystemAlarmSystemCfg, load_average), {}, "load averages"),
     number(FIELD(GSystemAlarmSystemCfg, free_ram)),
     number(FIELD(GSystemAlarmSystemCfg, free_space)),
-    number(FIELD(GSystemAlarmSystemCfg, temperature), "sensors"),
-    number(FIELD(GSystemAlarmSystemCfg, min_temperature), "sensors"),
+    number(FIELD(GSystemAlarmSystemCfg, temperature), {}, "sensors"),
+    number(FIELD(GSystemAlarmSystemCfg, min_temperature), {}, "sensors"),
     number(FIELD(GSystemAlarmSystemCfg, min_rpm)),
     number(FIELD(GSystemAlarmSystemCfg, max_rpm)),
 };

@@ -3,7 +3,7 @@
 namespace pondiff::tool {
 
 static constexpr Field privilege_level_fields[] = {
-    number(FIELD(GSystemPrivilegeLevel, privilege), "privileges"),
+    number(FIELD(GSystemPrivilegeLevel, privilege), {}, "privileges"),
 };
 DESCRIBE(GSystemPrivilegeLevel, privilege_level_record, privilege_level_fields);
 

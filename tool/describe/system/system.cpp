@@ -42,7 +42,7 @@ DESCRIBE(GSystemAuthCfg, auth_record, auth_fields);
 
 static constexpr Field fan_fields[] = {
     number(FIELD(GSystemFanCfg, revision)),
-    number(FIELD(GSystemFanCfg, speed_table), "temperature steps"),
+    number(FIELD(GSystemFanCfg, speed_table), {}, "temperature steps"),
     number(FIELD(GSystemFanCfg, fixed_speed)),
     number(FIELD(GSystemFanCfg, min_speed)),
 };
