@@ -25,7 +25,7 @@ inline bool every_check = false;
 inline bool chosen(const std::uint8_t* data, std::size_t size, std::uint32_t out_of)
 {
     std::uint32_t hash = 2166136261U; // FNV-1a
-    for (std::size_t i = 0; i < size; i++)
+    for (std::size_t i = 0; i < size; ++i)
         hash = (hash ^ data[i]) * 16777619U;
     return every_check || (hash >> 8U) % out_of == 0;
 }

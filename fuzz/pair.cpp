@@ -68,7 +68,7 @@ void Pair::patch(const std::vector<Patch>& patches)
         if (offset < first_ont || offset >= behind_onts)
             continue;
         const std::size_t ont = first_ont + (offset - first_ont) / sizeof(GPonOntCfg) * sizeof(GPonOntCfg);
-        for (std::size_t i = 0; i < GCFG_SERVICES; i++)
+        for (std::size_t i = 0; i < GCFG_SERVICES; ++i)
             tunnels.insert(ont + offsetof(GPonOntCfg, tunnel) + i * sizeof(GPonOntSelectiveTunnel));
     }
     for (const Patch& patch : patches) {

@@ -35,7 +35,7 @@ std::vector<std::uint8_t> content_of(const std::filesystem::path& path)
 int main(int argc, char** argv)
 {
     pondiff::fuzz::every_check = true;
-    for (int i = 1; i < argc; i++) {
+    for (int i = 1; i < argc; ++i) {
         const auto files = files_in(argv[i]);
         for (const auto& path : files) {
             std::printf("%s\n", path.c_str());

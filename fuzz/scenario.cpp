@@ -174,7 +174,7 @@ void print_call(const Call& call, std::string& out)
     out += call.operation->name;
     if (call.operation->takes_word && !call.word.empty())
         out += ' ' + call.word;
-    for (std::size_t i = 0; i < call.operation->numbers; i++)
+    for (std::size_t i = 0; i < call.operation->numbers; ++i)
         out += ' ' + std::to_string(call.numbers[i]);
     out += call.no_orig ? " no-orig" : "";
     out += call.no_cfg ? " no-cfg" : "";

@@ -212,7 +212,7 @@ class SortedTunnels : public testing::Test {
 
     SortedTunnels()
     {
-        for (int ont = first; ont <= last; ont++)
+        for (int ont = first; ont <= last; ++ont)
             for (GCfg* const configuration : {session.orig, session.cfg})
                 configuration->pon.ont[ont].exist = 1;
     }
@@ -222,7 +222,7 @@ class SortedTunnels : public testing::Test {
     {
         for (GPonOntSelectiveTunnel& tunnel : ont.tunnel) {
             const s16 vids[] = {7, 5, 6};
-            for (int i = 0; i < GCFG_TUNNEL_VIDS; i++)
+            for (int i = 0; i < GCFG_TUNNEL_VIDS; ++i)
                 tunnel.uvid[i] = i < 3 ? vids[i] : s16{-1};
         }
     }
@@ -230,7 +230,7 @@ class SortedTunnels : public testing::Test {
     static std::string tunnels()
     {
         std::string text;
-        for (int service = 0; service < GCFG_SERVICES; service++)
+        for (int service = 0; service < GCFG_SERVICES; ++service)
             text += "service " + std::string(service < 10 ? "   " : "  ") + std::to_string(service) +
                     " selective-tunnel uvid 5-7\n";
         return text;
@@ -244,10 +244,10 @@ class SortedTunnels : public testing::Test {
 /// The lists of one ONT become equal to the old ones while the walk is under way.
 TEST_F(SortedTunnels, DoNotHideTheChangeOfTheNextOnt)
 {
-    for (int ont = first; ont < last; ont++) {
+    for (int ont = first; ont < last; ++ont) {
         set_tunnels(session.cfg->pon.ont[ont]);
         for (GPonOntSelectiveTunnel& tunnel : session.orig->pon.ont[ont].tunnel) {
-            for (int i = 0; i < GCFG_TUNNEL_VIDS; i++)
+            for (int i = 0; i < GCFG_TUNNEL_VIDS; ++i)
                 tunnel.uvid[i] = static_cast<s16>(i < 3 ? 5 + i : -1);
         }
         session.cfg->pon.ont[ont + 1].fec_up = 1;

@@ -46,7 +46,7 @@ void fail_each_allocation(const char* name, Operation operation)
     int nulls = 0;
     for (const Failing how : both_ways) {
         bool happened = true;
-        for (int nth = 1; happened; nth++) {
+        for (int nth = 1; happened; ++nth) {
             SCOPED_TRACE(nth);
             current_view = before;
             char* text = nullptr;
@@ -61,7 +61,7 @@ void fail_each_allocation(const char* name, Operation operation)
                 ASSERT_STREQ(current_view.name, after.name);
                 continue;
             }
-            nulls++;
+            ++nulls;
             ASSERT_TRUE(happened);
             ASSERT_STREQ(current_view.name, before.name);
             ASSERT_EQ(current_view.key[0], before.key[0]);
@@ -215,7 +215,7 @@ TEST(FailingAllocation, OfAnyNameLeavesAnEmptySession)
             count = counted.count();
         }
         ASSERT_GT(count, GCFG_ONTS);
-        for (int nth = GCFG_ONTS + 1; nth <= count; nth++) {
+        for (int nth = GCFG_ONTS + 1; nth <= count; ++nth) {
             SCOPED_TRACE(nth);
             const FailingAllocation failure(nth, Failing::once);
             ASSERT_EQ(initiate_diff(session.orig, session.cfg, 1, 2), -1);
@@ -322,7 +322,7 @@ TEST(FailingAllocation, OfAFormatterGivesNull)
         const std::string whole = taken(formatter());
         for (const Failing how : both_ways) {
             int nth = 1;
-            for (bool happened = true; happened; nth++) {
+            for (bool happened = true; happened; ++nth) {
                 char* text = nullptr;
                 {
                     const FailingAllocation failure(nth, how);
@@ -363,7 +363,7 @@ TEST_F(FailingAllocationOfATemplate, GivesNull)
         EXPECT_EQ(whole.substr(0, 24), "user \"sixteen-letters!\" ");
         for (const Failing how : both_ways) {
             int nth = 1;
-            for (bool happened = true; happened; nth++) {
+            for (bool happened = true; happened; ++nth) {
                 char* text = nullptr;
                 {
                     const FailingAllocation failure(nth, how);
@@ -388,7 +388,7 @@ TEST_F(FailingAllocationOfATemplate, IntoABufferLeavesAnEmptyText)
         int failures = 0;
         for (const Failing how : both_ways) {
             bool happened = true;
-            for (int nth = 1; happened; nth++) {
+            for (int nth = 1; happened; ++nth) {
                 std::string buffer(8000, '!');
                 int status = 1;
                 {
@@ -418,7 +418,7 @@ TEST(FailingAllocation, OfTheLastPartOfATemplateGivesNull)
     std::string named = "user $ID0 x";
     const std::string expected[] = {std::string(1020, 'x') + "   3", "user \"" + std::string(longest_name) + "\" x"};
     std::string* const commands[] = {&mark_at_the_end, &named};
-    for (int i = 0; i < 2; i++) {
+    for (int i = 0; i < 2; ++i) {
         char* const command = commands[i]->data();
         EXPECT_EQ(taken(useVariables(command, ids)), expected[i]);
         const FailingAllocation failure(1, Failing::once);

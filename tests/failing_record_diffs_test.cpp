@@ -153,7 +153,7 @@ TEST_F(FailingRecordDiffs, StatusOfStormControlTellsWhatWasLost)
     GPonOntStormControl none{};
     GPonOntStormControl& storm = session.cfg->pon.profiles_ont.shaping[1].upstream.storm_control;
     for (const Failing how : {Failing::once, Failing::from_then_on}) {
-        for (int nth = 1; nth <= static_cast<int>(std::size(statuses)); nth++) {
+        for (int nth = 1; nth <= static_cast<int>(std::size(statuses)); ++nth) {
             List<char> list;
             int key[10] = {1};
             int status = 0;

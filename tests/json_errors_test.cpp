@@ -11,7 +11,7 @@ namespace {
 std::string repeated(const std::string& text, std::size_t times)
 {
     std::string result;
-    for (std::size_t i = 0; i < times; i++) {
+    for (std::size_t i = 0; i < times; ++i) {
         result += text;
     }
     return result;
@@ -158,10 +158,10 @@ TEST(JsonArrays, TunnelListsEndInMinusOne)
     };
     EXPECT_EQ(uvid(1, 0), 100);
     EXPECT_EQ(uvid(1, 1), 200);
-    for (int i = 2; i < 42; i++) {
+    for (int i = 2; i < 42; ++i) {
         EXPECT_EQ(uvid(1, i), -1);
     }
-    for (int i = 0; i < 42; i++) {
+    for (int i = 0; i < 42; ++i) {
         EXPECT_EQ(uvid(2, i), -1);
         EXPECT_EQ(uvid(0, i), 0) << "absent";
     }
@@ -192,7 +192,7 @@ TEST(JsonArrays, TunnelListsEndInMinusOne)
 TEST(JsonFlagSets, AreNumbersAndRanges)
 {
     const Config config = read(in_source_guard(R"("vid": "100,200-210")"));
-    for (int vid = 0; vid < 4095; vid++) {
+    for (int vid = 0; vid < 4095; ++vid) {
         ASSERT_EQ(static_cast<int>(config->system.services.source_guard.vid[vid].allowed),
                   vid == 100 || (vid >= 200 && vid <= 210) ? 1 : 0)
             << vid;
@@ -296,16 +296,16 @@ TEST(JsonSyntax, AByteOrderMarkIsSkipped)
 
 TEST(JsonSyntax, NothingHostileGoesDeep)
 {
-    constexpr std::size_t MANY = 20'000'000;
-    EXPECT_EQ(error_of(std::string(MANY, '[')),
+    constexpr std::size_t many = 20'000'000;
+    EXPECT_EQ(error_of(std::string(many, '[')),
               "cfg.json: expected an object with the fields of the configuration, found a list");
     EXPECT_EQ(error_of(repeated("{\"system\":", 1'000'000)), "cfg.json: system: unknown field \"system\"");
-    EXPECT_EQ(error_of(in_network("\"revision\": " + std::string(MANY, '['))),
+    EXPECT_EQ(error_of(in_network("\"revision\": " + std::string(many, '['))),
               "cfg.json: system.network.revision: expected a whole number from 0 to 4294967295, found a list");
     EXPECT_EQ(error_of(in_network("\"revision\": " + std::string(1'000'000, '9'))).substr(0, 14), "cfg.json:1:100");
-    EXPECT_EQ(error_of(in_network("\"hostname\": \"" + std::string(MANY, 'h') + "\"")),
+    EXPECT_EQ(error_of(in_network("\"hostname\": \"" + std::string(many, 'h') + "\"")),
               "cfg.json: system.network.hostname: \"" + std::string(60, 'h') +
                   "\"... has 20000000 bytes, but at most 255 fit");
-    EXPECT_EQ(error_of("{\"" + std::string(MANY, 'k') + "\": 1}"),
+    EXPECT_EQ(error_of("{\"" + std::string(many, 'k') + "\": 1}"),
               "cfg.json: unknown field \"" + std::string(60, 'k') + "\"...");
 }

@@ -55,9 +55,9 @@ const std::vector<std::pair<std::size_t, std::size_t>>& leaves()
 /// Bytes that mean something to texts, numbers or the format.
 unsigned char telling_byte(std::mt19937& random)
 {
-    constexpr unsigned char BYTES[] = {0,   0,   0,   1,    2,    3,    '"',  '\\', '\n', '0',  'A', 0x1F,
-                                       'z', '-', ',', 0x7F, 0x80, 0xBF, 0xC3, 0xE2, 0xED, 0xF0, 0xFF};
-    return BYTES[random() % sizeof BYTES];
+    constexpr unsigned char likely[] = {0,   0,   0,   1,    2,    3,    '"',  '\\', '\n', '0',  'A', 0x1F,
+                                        'z', '-', ',', 0x7F, 0x80, 0xBF, 0xC3, 0xE2, 0xED, 0xF0, 0xFF};
+    return likely[random() % sizeof likely];
 }
 
 } // namespace
@@ -67,7 +67,7 @@ TEST(JsonProperty, RandomBytesAreKept)
     for (const unsigned seed : {1U, 2U}) {
         std::mt19937 random(seed);
         const Config config = blank();
-        for (std::size_t i = 0; i < sizeof(GCfg); i++) {
+        for (std::size_t i = 0; i < sizeof(GCfg); ++i) {
             bytes_of(config)[i] = static_cast<unsigned char>(random());
         }
         EXPECT_EQ(lost(config, false), "") << "seed " << seed;
@@ -80,7 +80,7 @@ TEST(JsonProperty, TellingBytesAreKept)
     for (const unsigned seed : {1U, 2U}) {
         std::mt19937 random(seed);
         const Config config = blank();
-        for (std::size_t i = 0; i < sizeof(GCfg); i++) {
+        for (std::size_t i = 0; i < sizeof(GCfg); ++i) {
             bytes_of(config)[i] = telling_byte(random);
         }
         EXPECT_EQ(lost(config, false), "") << "seed " << seed;
@@ -101,12 +101,12 @@ TEST(JsonProperty, EqualBytesAreKept)
 /// Every leaf of the records takes part, some at a time, with the neighbours in its array both zero and not.
 TEST(JsonProperty, EveryLeafIsKept)
 {
-    for (std::size_t turn = 0; turn < 7; turn++) {
+    for (std::size_t turn = 0; turn < 7; ++turn) {
         std::mt19937 random(static_cast<unsigned>(turn));
         const Config config = blank();
         for (std::size_t i = turn; i < leaves().size(); i += 7) {
             const auto [offset, width] = leaves()[i];
-            for (std::size_t at = 0; at < width; at++) {
+            for (std::size_t at = 0; at < width; ++at) {
                 bytes_of(config)[offset + at] = telling_byte(random);
             }
         }
@@ -134,9 +134,9 @@ RC_GTEST_PROP(JsonProperty, DamagedDocumentsAreReadOrRefused, (unsigned seed))
     static const std::string sound = [] {
         const Config config = blank();
         std::mt19937 random(static_cast<unsigned>(leaves().size()));
-        for (int i = 0; i < 300; i++) {
+        for (int i = 0; i < 300; ++i) {
             const auto [offset, width] = leaves()[random() % leaves().size()];
-            for (std::size_t at = 0; at < width; at++) {
+            for (std::size_t at = 0; at < width; ++at) {
                 bytes_of(config)[offset + at] = telling_byte(random);
             }
         }
@@ -144,11 +144,11 @@ RC_GTEST_PROP(JsonProperty, DamagedDocumentsAreReadOrRefused, (unsigned seed))
         config->pon.ont[70].tunnel[1].uvid[0] = 7;
         return write_json(*config, false);
     }();
-    constexpr std::string_view TELLING = "{}[]\",:0-9ehx \n\xFF";
+    constexpr std::string_view telling = "{}[]\",:0-9ehx \n\xFF";
     std::mt19937 random(seed);
     std::string document = sound;
     const int damages = *rc::gen::inRange(1, 6);
-    for (int i = 0; i < damages; i++) {
+    for (int i = 0; i < damages; ++i) {
         const std::size_t at = random() % document.size();
         const std::size_t length = 1 + random() % 4;
         switch (random() % 4) {
@@ -156,7 +156,7 @@ RC_GTEST_PROP(JsonProperty, DamagedDocumentsAreReadOrRefused, (unsigned seed))
             document.erase(at, length);
             break;
         case 1:
-            document.insert(at, 1, TELLING[random() % TELLING.size()]);
+            document.insert(at, 1, telling[random() % telling.size()]);
             break;
         case 2:
             document.insert(at, document.substr(random() % document.size(), length));

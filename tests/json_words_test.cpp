@@ -12,12 +12,12 @@ namespace {
 /// A registry as awkward as one can be.
 const char* look_up(const char* type, int value)
 {
-    static constexpr const char* WORDS[] = {"same", "same", "", nullptr, "\xFF", "7", "say \"so\"", "?"};
+    static constexpr const char* words[] = {"same", "same", "", nullptr, "\xFF", "7", "say \"so\"", "?"};
     if (std::strcmp(type, "Awkward_enum") != 0) {
         return "?";
     }
     const int low = value & 0xFFFF;
-    return low < 8 ? WORDS[low] : low == 255 ? "near" : low == 256 ? "far" : low == 1023 ? "last" : "?";
+    return low < 8 ? words[low] : low == 255 ? "near" : low == 256 ? "far" : low == 1023 ? "last" : "?";
 }
 
 std::vector<std::string> texts(const Words& words)

@@ -32,7 +32,7 @@ struct Kind {
             }                                                                                                          \
     }
 
-const Kind KINDS[] = {
+const Kind kinds[] = {
     KIND("management", 32, management, ManagementName, profiles_ont.management),
     KIND("shaping", 128, shaping, ShapingName, profiles_ont.shaping),
     KIND("ports", 32, ports, PortsName, profiles_ont.ports),
@@ -54,14 +54,14 @@ std::string word(const char* kind, int slot)
 
 void fill_all(GCfg& cfg)
 {
-    for (const Kind& kind : KINDS)
-        for (int slot = 0; slot < kind.slots; slot++)
+    for (const Kind& kind : kinds)
+        for (int slot = 0; slot < kind.slots; ++slot)
             kind.set(cfg, slot, 1, word(kind.name, slot));
-    for (int slot = 0; slot < 32; slot++) {
+    for (int slot = 0; slot < 32; ++slot) {
         cfg.pon.network.terminal_vlan[slot].exists = 1;
         put(cfg.pon.network.terminal_vlan[slot].name, word("terminal", slot));
     }
-    for (int slot = 0; slot < 16; slot++) {
+    for (int slot = 0; slot < 16; ++slot) {
         cfg.system.user[slot].exist = 1;
         put(cfg.system.user[slot].name, word("user", slot));
     }
@@ -69,9 +69,9 @@ void fill_all(GCfg& cfg)
 
 void expect_every_slot_null()
 {
-    for (const Kind& kind : KINDS) {
+    for (const Kind& kind : kinds) {
         SCOPED_TRACE(kind.name);
-        for (int slot = 0; slot < kind.slots; slot++) {
+        for (int slot = 0; slot < kind.slots; ++slot) {
             EXPECT_EQ(kind.plain[slot], nullptr) << slot;
             EXPECT_EQ(kind.old[slot], nullptr) << slot;
         }
@@ -99,8 +99,8 @@ TEST_F(NameTables, EveryKindIsFilledFromItsOwnArray)
 {
     fill_all(*session.cfg);
     session.open();
-    for (const Kind& kind : KINDS) {
-        for (int slot = 0; slot < kind.slots; slot++) {
+    for (const Kind& kind : kinds) {
+        for (int slot = 0; slot < kind.slots; ++slot) {
             SCOPED_TRACE(word(kind.name, slot));
             EXPECT_STREQ(kind.plain[slot], word(kind.name, slot).c_str());
             EXPECT_STREQ(kind.get(slot), word(kind.name, slot).c_str());
@@ -114,8 +114,8 @@ TEST_F(NameTables, EveryTwinIsFilledFromTheOldConfiguration)
 {
     fill_all(*session.orig);
     session.open();
-    for (const Kind& kind : KINDS) {
-        for (int slot = 0; slot < kind.slots; slot++) {
+    for (const Kind& kind : kinds) {
+        for (int slot = 0; slot < kind.slots; ++slot) {
             SCOPED_TRACE(word(kind.name, slot));
             EXPECT_STREQ(kind.old[slot], word(kind.name, slot).c_str());
             EXPECT_STREQ(kind.get_old(slot), word(kind.name, slot).c_str());
@@ -129,12 +129,12 @@ TEST_F(NameTables, EveryTwinIsFilledFromTheOldConfiguration)
 
 TEST_F(NameTables, BothSidesKeepTheirOwnNames)
 {
-    for (const Kind& kind : KINDS) {
+    for (const Kind& kind : kinds) {
         kind.set(*session.orig, 5, 1, "before");
         kind.set(*session.cfg, 5, 1, "after");
     }
     session.open();
-    for (const Kind& kind : KINDS) {
+    for (const Kind& kind : kinds) {
         SCOPED_TRACE(kind.name);
         EXPECT_STREQ(kind.get(5), "after");
         EXPECT_STREQ(kind.get_old(5), "before");
@@ -143,14 +143,14 @@ TEST_F(NameTables, BothSidesKeepTheirOwnNames)
 
 TEST_F(NameTables, AnyExistFlagButZeroCounts)
 {
-    for (const Kind& kind : KINDS) {
+    for (const Kind& kind : kinds) {
         kind.set(*session.cfg, 0, 0, "absent");
         kind.set(*session.cfg, 1, 2, "two");
         kind.set(*session.cfg, 2, 0x100, "high byte");
         kind.set(*session.cfg, kind.slots - 1, 0xFFFF, "all bits");
     }
     session.open();
-    for (const Kind& kind : KINDS) {
+    for (const Kind& kind : kinds) {
         SCOPED_TRACE(kind.name);
         EXPECT_EQ(kind.get(0), nullptr);
         EXPECT_STREQ(kind.get(1), "two");
@@ -165,7 +165,7 @@ TEST_F(NameTables, OutsideATableEveryLookupSaysUnassigned)
     fill_all(*session.orig);
     fill_all(*session.cfg);
     session.open();
-    for (const Kind& kind : KINDS) {
+    for (const Kind& kind : kinds) {
         for (const int slot : {-1, -2, kind.slots, kind.slots + 1, 100000, INT_MAX, INT_MIN}) {
             SCOPED_TRACE(std::string(kind.name) + " " + std::to_string(slot));
             EXPECT_STREQ(kind.get(slot), "unassigned");
@@ -178,12 +178,12 @@ TEST_F(NameTables, OutsideATableEveryLookupSaysUnassigned)
 
 TEST_F(NameTables, AnEmptyNameIsAName)
 {
-    for (const Kind& kind : KINDS) {
+    for (const Kind& kind : kinds) {
         kind.set(*session.cfg, 4, 1, "");
         kind.set(*session.orig, 4, 1, "");
     }
     session.open();
-    for (const Kind& kind : KINDS) {
+    for (const Kind& kind : kinds) {
         SCOPED_TRACE(kind.name);
         EXPECT_STREQ(kind.get(4), "");
         EXPECT_STREQ(kind.get_old(4), "");
@@ -192,7 +192,7 @@ TEST_F(NameTables, AnEmptyNameIsAName)
 
 TEST_F(NameTables, ANameThatFillsItsFieldEndsThere)
 {
-    for (const Kind& kind : KINDS) {
+    for (const Kind& kind : kinds) {
         kind.set(*session.cfg, 4, 1, "sixteen letters!");
         kind.set(*session.orig, 4, 1, "letters, sixteen");
     }
@@ -205,7 +205,7 @@ TEST_F(NameTables, ANameThatFillsItsFieldEndsThere)
     put(user.name, "thirty-two letters in one name!!");
     put(user.password, "secret");
     session.open();
-    for (const Kind& kind : KINDS) {
+    for (const Kind& kind : kinds) {
         SCOPED_TRACE(kind.name);
         EXPECT_STREQ(kind.get(4), "sixteen letters!");
         EXPECT_STREQ(kind.get_old(4), "letters, sixteen");
@@ -232,13 +232,13 @@ TEST_F(NameTables, TerminalVlansAndUsers)
     session.cfg->system.user[1].exist = 0;
     session.cfg->system.user[2].exist = 0x8000;
     session.open();
-    for (int slot = 0; slot < 32; slot++) {
+    for (int slot = 0; slot < 32; ++slot) {
         SCOPED_TRACE(slot);
         const std::string name = word("terminal", slot);
         EXPECT_STREQ(terminalvlan2id_connection[slot], slot == 1 ? nullptr : name.c_str());
         EXPECT_STREQ(getTerminalVlanName(slot), slot == 1 ? nullptr : name.c_str());
     }
-    for (int slot = 0; slot < 16; slot++)
+    for (int slot = 0; slot < 16; ++slot)
         EXPECT_STREQ(user2id_connection[slot], slot == 1 ? nullptr : word("user", slot).c_str());
 }
 
@@ -247,7 +247,7 @@ TEST_F(NameTables, TerminalVlansAndUsers)
 TEST_F(NameTables, OntsAreNamedByTheirSerialNumbers)
 {
     session.cfg->system.settings.ont_sn_format = 1;
-    for (int slot = 0; slot < 532; slot++)
+    for (int slot = 0; slot < 532; ++slot)
         put(session.cfg->pon.ont[slot].serial, {'G', 'P', 'O', 'N', 0, 0, slot / 256, slot % 256});
     session.open();
     EXPECT_STREQ(ont2id_connection[0], "0000000000000000") << "whatever its serial number";
@@ -294,14 +294,14 @@ TEST_F(NameTables, AlarmSlotsHoldTheWordOfTheirType)
 
 TEST_F(NameTables, RedefinitionsKeepTheirVlanIds)
 {
-    for (int slot = 0; slot < 16; slot++) {
+    for (int slot = 0; slot < 16; ++slot) {
         session.cfg->pon.olt.general.profile_olt_dhcpra_redefinition[slot].vid =
             static_cast<unsigned short>(65535 - slot);
         session.cfg->pon.olt.general.profile_olt_dhcpv6ra_redefinition[slot].vid = 6;
         session.orig->pon.olt.general.profile_olt_dhcpra_redefinition[slot].vid = 4;
     }
     session.open();
-    for (int slot = 0; slot < 16; slot++)
+    for (int slot = 0; slot < 16; ++slot)
         EXPECT_EQ(profile_dhcpra_redefinition2id_connection[slot], 65535 - slot);
 }
 
@@ -366,7 +366,7 @@ TEST_F(NameTables, NamesAreCopies)
     session.open();
     std::memset(session.orig, 0xFF, sizeof(GCfg));
     std::memset(session.cfg, 0xFF, sizeof(GCfg));
-    for (const Kind& kind : KINDS) {
+    for (const Kind& kind : kinds) {
         EXPECT_STREQ(kind.get(3), word(kind.name, 3).c_str());
         EXPECT_STREQ(kind.get_old(3), word(kind.name, 3).c_str());
     }
@@ -384,10 +384,10 @@ TEST_F(NameTables, OpeningTwiceKeepsOnlyTheSecondSession)
     session.open();
     *session.orig = GCfg{};
     *session.cfg = GCfg{};
-    for (const Kind& kind : KINDS)
+    for (const Kind& kind : kinds)
         kind.set(*session.cfg, 1, 1, "second");
     session.open();
-    for (const Kind& kind : KINDS) {
+    for (const Kind& kind : kinds) {
         SCOPED_TRACE(kind.name);
         EXPECT_EQ(kind.get(0), nullptr);
         EXPECT_STREQ(kind.get(1), "second");
@@ -404,7 +404,7 @@ TEST_F(NameTables, AfterClosingEverySlotIsNull)
     session.open();
     EXPECT_EQ(finalize_diff(), 0);
     expect_every_slot_null();
-    for (const Kind& kind : KINDS) {
+    for (const Kind& kind : kinds) {
         EXPECT_EQ(kind.get(0), nullptr);
         EXPECT_STREQ(kind.get_old(0), "unassigned");
         EXPECT_STREQ(kind.get(-1), "unassigned");
@@ -470,7 +470,7 @@ TEST_F(NameTables, PreparingMovesToTheTopLevelAndLeavesTheKey)
     current_view = {"vlan-view", {9, 8, 7, 6, 5, 4, 3, 2, 1, 0}};
     session.open();
     EXPECT_STREQ(current_view.name, "root");
-    for (int slot = 0; slot < 10; slot++)
+    for (int slot = 0; slot < 10; ++slot)
         EXPECT_EQ(current_view.key[slot], 9 - slot);
     current_view = {"root", {}};
 }

@@ -56,7 +56,7 @@ struct Family {
     const char* named; ///< what stands for slot 3, with the blanks around it
     const char* empty; ///< what stands for a slot without a text
 };
-constexpr Family FAMILIES[] = {
+constexpr Family name_families[] = {
     {"user ", "user \"operator\" ", "user \"\" "},
     {"log submodule ", "log submodule pmchal-olt ", "log submodule  "},
     {"alarm ", "alarm rssi-update ", "alarm  "},
@@ -222,7 +222,7 @@ TEST(Placeholders, LongTextsAreNotCut)
 TEST_F(Families, ShowTheirFirstIdentifierAsAText)
 {
     session.open();
-    for (const Family& family : FAMILIES)
+    for (const Family& family : name_families)
         EXPECT_EQ(substituted(std::string(family.begin) + "$ID0 enable \"7\"", {3}),
                   std::string(family.named) + "enable \"7\"");
 }
@@ -230,7 +230,7 @@ TEST_F(Families, ShowTheirFirstIdentifierAsAText)
 TEST_F(Families, ShowFurtherIdentifiersAsNumbers)
 {
     session.open();
-    for (const Family& family : FAMILIES)
+    for (const Family& family : name_families)
         EXPECT_EQ(substituted(std::string(family.begin) + "$ID0 to $ID1, $ID0, $ID", {3, 12}),
                   std::string(family.named) + "to   12,    3,    3");
 }
@@ -238,7 +238,7 @@ TEST_F(Families, ShowFurtherIdentifiersAsNumbers)
 TEST_F(Families, ThatEndBehindThePlaceholderHaveAnEmptyRest)
 {
     session.open();
-    for (const Family& family : FAMILIES) {
+    for (const Family& family : name_families) {
         EXPECT_EQ(substituted(std::string(family.begin) + "$ID0", {3}), family.named);
         EXPECT_EQ(substituted(std::string(family.begin) + "$ID0 ", {3}), family.named);
     }
@@ -247,7 +247,7 @@ TEST_F(Families, ThatEndBehindThePlaceholderHaveAnEmptyRest)
 TEST_F(Families, SkipTheCharacterBehindThePlaceholderWhateverItIs)
 {
     session.open();
-    for (const Family& family : FAMILIES) {
+    for (const Family& family : name_families) {
         EXPECT_EQ(substituted(std::string(family.begin) + "$ID0,x", {3}), std::string(family.named) + "x");
         EXPECT_EQ(substituted(std::string(family.begin) + "$ID0  x", {3}), std::string(family.named) + " x");
     }
@@ -256,7 +256,7 @@ TEST_F(Families, SkipTheCharacterBehindThePlaceholderWhateverItIs)
 TEST_F(Families, AreKnownByTheWholeBeginning)
 {
     session.open();
-    for (const Family& family : FAMILIES) {
+    for (const Family& family : name_families) {
         const std::string begin = family.begin;
         EXPECT_EQ(substituted("no " + begin + "$ID0 x", {3}), "no " + begin + "   3 x");
         EXPECT_EQ(substituted(" " + begin + "$ID0 x", {3}), " " + begin + "   3 x");
@@ -272,7 +272,7 @@ TEST_F(Families, AreKnownByTheWholeBeginning)
 TEST_F(Families, WithoutAnEntryGiveTheEmptyText)
 {
     session.open();
-    for (const Family& family : FAMILIES) {
+    for (const Family& family : name_families) {
         for (const int slot : {-1, 1024, INT_MAX, INT_MIN}) {
             SCOPED_TRACE(slot);
             EXPECT_EQ(substituted(std::string(family.begin) + "$ID0 enable", {slot}),
@@ -345,7 +345,7 @@ TEST_F(Families, ANameThatFillsItsFieldHasNoTerminator)
 TEST_F(Families, LongTemplatesAreNotCut)
 {
     session.open();
-    for (const Family& family : FAMILIES)
+    for (const Family& family : name_families)
         for (const std::size_t length : {970U, 980U, 990U, 1000U, 1010U, 1020U, 1030U, 5000U})
             EXPECT_EQ(substituted(family.begin + ("$ID0 " + std::string(length, 'v')) + "$ID1", {3, 4}),
                       family.named + std::string(length, 'v') + "   4");

@@ -11,25 +11,25 @@ namespace {
 
 using Converter = void (*)(char* out, const unsigned char* value);
 
-constexpr char GUARD = '\x5A';
-constexpr std::size_t GUARD_SIZE = 32;
+constexpr char guard_byte = '\x5A';
+constexpr std::size_t guard_size = 32;
 
-constexpr std::size_t IP_SIZE = 16;
-constexpr std::size_t MAC_SIZE = 25;
-constexpr std::size_t ENGINE_ID_SIZE = 29;
-constexpr std::size_t SERIAL_SIZE = 24;
+constexpr std::size_t ip_size = 16;
+constexpr std::size_t mac_size = 25;
+constexpr std::size_t engine_id_size = 29;
+constexpr std::size_t serial_size = 24;
 
 // The text that `convert` writes into a buffer of `size` bytes, whose neighbours on both sides must stay as they are.
 // The value is a block of its own length, so that a sanitizer sees every read beyond it.
 std::string text_of(Converter convert, std::size_t size, const std::vector<unsigned char>& value)
 {
-    const std::string guard(GUARD_SIZE, GUARD);
-    std::string memory(GUARD_SIZE + size + GUARD_SIZE, GUARD);
-    convert(&memory[GUARD_SIZE], value.data());
+    const std::string guard(guard_size, guard_byte);
+    std::string memory(guard_size + size + guard_size, guard_byte);
+    convert(&memory[guard_size], value.data());
 
-    EXPECT_EQ(guard, memory.substr(0, GUARD_SIZE)) << "written in front of the buffer";
-    EXPECT_EQ(guard, memory.substr(GUARD_SIZE + size)) << "written behind the buffer";
-    const std::string buffer = memory.substr(GUARD_SIZE, size);
+    EXPECT_EQ(guard, memory.substr(0, guard_size)) << "written in front of the buffer";
+    EXPECT_EQ(guard, memory.substr(guard_size + size)) << "written behind the buffer";
+    const std::string buffer = memory.substr(guard_size, size);
     const std::size_t length = buffer.find('\0');
     EXPECT_NE(std::string::npos, length) << "no terminator";
     return buffer.substr(0, length);
@@ -37,38 +37,38 @@ std::string text_of(Converter convert, std::size_t size, const std::vector<unsig
 
 std::string ip(const std::vector<unsigned char>& value)
 {
-    return text_of(convert_ip_bintostr, IP_SIZE, value);
+    return text_of(convert_ip_bintostr, ip_size, value);
 }
 
 std::string mac(const std::vector<unsigned char>& value)
 {
-    return text_of(convert_mac_bintostr, MAC_SIZE, value);
+    return text_of(convert_mac_bintostr, mac_size, value);
 }
 
 std::string engine_id(const std::vector<unsigned char>& value)
 {
-    return text_of(convert_snmpengineid_bintostr, ENGINE_ID_SIZE, value);
+    return text_of(convert_snmpengineid_bintostr, engine_id_size, value);
 }
 
 std::string pretty(const std::vector<unsigned char>& value)
 {
-    return text_of(convert_sn_bintostr_pretty, SERIAL_SIZE, value);
+    return text_of(convert_sn_bintostr_pretty, serial_size, value);
 }
 
 std::string dense(const std::vector<unsigned char>& value)
 {
-    return text_of(convert_sn_bintostr_dense, SERIAL_SIZE, value);
+    return text_of(convert_sn_bintostr_dense, serial_size, value);
 }
 
 std::string dashed(const std::vector<unsigned char>& value)
 {
-    return text_of(convert_sn_bintostr_dashed, SERIAL_SIZE, value);
+    return text_of(convert_sn_bintostr_dashed, serial_size, value);
 }
 
-const std::vector<unsigned char> ABCD = {'A', 'B', 'C', 'D', 0x01, 0x02, 0x03, 0x04};
-const std::vector<unsigned char> ZEROS(8, 0x00);
-const std::vector<unsigned char> ONES(8, 0xFF);
-const std::vector<unsigned char> MIXED = {0x0A, 0xB0, 0x9C, 0xD9, 0xEF, 0xFE, 0x10, 0x8F};
+const std::vector<unsigned char> abcd = {'A', 'B', 'C', 'D', 0x01, 0x02, 0x03, 0x04};
+const std::vector<unsigned char> zeros(8, 0x00);
+const std::vector<unsigned char> ones(8, 0xFF);
+const std::vector<unsigned char> mixed = {0x0A, 0xB0, 0x9C, 0xD9, 0xEF, 0xFE, 0x10, 0x8F};
 
 TEST(PlatformIp, IsDottedDecimalWithoutLeadingZeros)
 {
@@ -86,7 +86,7 @@ TEST(PlatformIp, ShortestAndLongestText)
 
 TEST(PlatformIp, EveryByteAtEveryPosition)
 {
-    for (int byte = 0; byte < 256; byte++) {
+    for (int byte = 0; byte < 256; ++byte) {
         const auto value = static_cast<unsigned char>(byte);
         const std::string decimal = std::to_string(byte);
         EXPECT_EQ(decimal + ".1.2.3", ip({value, 1, 2, 3}));
@@ -98,7 +98,7 @@ TEST(PlatformIp, EveryByteAtEveryPosition)
 
 TEST(PlatformIp, OnlyZerosAreWrittenBehindTheTerminator)
 {
-    char out[IP_SIZE] = {};
+    char out[ip_size] = {};
     const unsigned char value[] = {1, 2, 3, 4};
     convert_ip_bintostr(out, value);
     EXPECT_EQ(std::string("1.2.3.4") + std::string(9, '\0'), std::string(out, sizeof out));
@@ -130,42 +130,42 @@ TEST(PlatformEngineId, Extremes)
 
 TEST(PlatformSerial, PrettyShowsTheVendorAsCharacters)
 {
-    EXPECT_EQ("ABCD01020304", pretty(ABCD));
+    EXPECT_EQ("ABCD01020304", pretty(abcd));
     EXPECT_EQ("wxYZDEADBEEF", pretty({'w', 'x', 'Y', 'Z', 0xDE, 0xAD, 0xBE, 0xEF}));
     EXPECT_EQ("1%$ 0000000A", pretty({'1', '%', '$', ' ', 0x00, 0x00, 0x00, 0x0A}));
 }
 
 TEST(PlatformSerial, PrettyShowsUnprintableVendorBytesAsDots)
 {
-    EXPECT_EQ("....00000000", pretty(ZEROS));
-    EXPECT_EQ("....FFFFFFFF", pretty(ONES));
+    EXPECT_EQ("....00000000", pretty(zeros));
+    EXPECT_EQ("....FFFFFFFF", pretty(ones));
     EXPECT_EQ(". ~.20202020", pretty({0x1F, 0x20, 0x7E, 0x7F, 0x20, 0x20, 0x20, 0x20}));
     EXPECT_EQ("A..D80818283", pretty({'A', 0x80, 0x0A, 'D', 0x80, 0x81, 0x82, 0x83}));
 }
 
 TEST(PlatformSerial, DenseIsUpperCaseHexadecimal)
 {
-    EXPECT_EQ("4142434401020304", dense(ABCD));
-    EXPECT_EQ("0AB09CD9EFFE108F", dense(MIXED));
-    EXPECT_EQ("0000000000000000", dense(ZEROS));
-    EXPECT_EQ("FFFFFFFFFFFFFFFF", dense(ONES));
+    EXPECT_EQ("4142434401020304", dense(abcd));
+    EXPECT_EQ("0AB09CD9EFFE108F", dense(mixed));
+    EXPECT_EQ("0000000000000000", dense(zeros));
+    EXPECT_EQ("FFFFFFFFFFFFFFFF", dense(ones));
 }
 
 TEST(PlatformSerial, DashedParts)
 {
-    EXPECT_EQ("41424344-01020304", dashed(ABCD));
-    EXPECT_EQ("0AB09CD9-EFFE108F", dashed(MIXED));
-    EXPECT_EQ("00000000-00000000", dashed(ZEROS));
-    EXPECT_EQ("FFFFFFFF-FFFFFFFF", dashed(ONES));
+    EXPECT_EQ("41424344-01020304", dashed(abcd));
+    EXPECT_EQ("0AB09CD9-EFFE108F", dashed(mixed));
+    EXPECT_EQ("00000000-00000000", dashed(zeros));
+    EXPECT_EQ("FFFFFFFF-FFFFFFFF", dashed(ones));
 }
 
 TEST(PlatformSerial, ALayoutOverwritesALongerOne)
 {
-    char out[SERIAL_SIZE] = {};
-    convert_sn_bintostr_dashed(out, ABCD.data());
-    convert_sn_bintostr_pretty(out, ABCD.data());
+    char out[serial_size] = {};
+    convert_sn_bintostr_dashed(out, abcd.data());
+    convert_sn_bintostr_pretty(out, abcd.data());
     EXPECT_STREQ("ABCD01020304", out);
-    convert_sn_bintostr_dense(out, ABCD.data());
+    convert_sn_bintostr_dense(out, abcd.data());
     EXPECT_STREQ("4142434401020304", out);
 }
 
@@ -175,7 +175,7 @@ struct Vocabulary {
 };
 
 // Words are what users write and read in files and on command lines, so each is held here once more.
-const Vocabulary VOCABULARIES[] = {
+const Vocabulary vocabularies[] = {
     {"GAlarmSeverity_enum", "0=indeterminate 1=critical 2=major 3=minor 4=warning 5=cleared"},
     {"GAlarmType_enum",
      "0=dummy 1=load-average 2=ram 3=login 4=config-save 5=firmware-update 6=duplicate-mac "
@@ -234,7 +234,7 @@ const Vocabulary VOCABULARIES[] = {
 std::map<int, std::string> words_of(const char* type)
 {
     std::map<int, std::string> words;
-    for (int value = 0; value <= 0xFFFF; value++) {
+    for (int value = 0; value <= 0xFFFF; ++value) {
         const std::string word = gpon_enum_find_name_by_type(type, value);
         if (word != "unknown") {
             words[value] = word;
@@ -245,7 +245,7 @@ std::map<int, std::string> words_of(const char* type)
 
 TEST(PlatformEnum, WordsOfEveryEnumeration)
 {
-    for (const Vocabulary& vocabulary : VOCABULARIES) {
+    for (const Vocabulary& vocabulary : vocabularies) {
         std::string words;
         for (const auto& [value, word] : words_of(vocabulary.type)) {
             words += (words.empty() ? "" : " ") + std::to_string(value) + "=" + word;
@@ -256,7 +256,7 @@ TEST(PlatformEnum, WordsOfEveryEnumeration)
 
 TEST(PlatformEnum, WordsAreUniqueWithinTheirEnumeration)
 {
-    for (const Vocabulary& vocabulary : VOCABULARIES) {
+    for (const Vocabulary& vocabulary : vocabularies) {
         std::set<std::string> seen;
         for (const auto& [value, word] : words_of(vocabulary.type)) {
             EXPECT_TRUE(seen.insert(word).second) << vocabulary.type << ' ' << value << ' ' << word;
@@ -268,7 +268,7 @@ TEST(PlatformEnum, WordsAreUniqueWithinTheirEnumeration)
 // So that a word is one token on a command line and is never taken for the value itself.
 TEST(PlatformEnum, WordsAreLowerCaseAndNotNumbers)
 {
-    for (const Vocabulary& vocabulary : VOCABULARIES) {
+    for (const Vocabulary& vocabulary : vocabularies) {
         const std::map<int, std::string> words = words_of(vocabulary.type);
         EXPECT_FALSE(words.empty()) << vocabulary.type;
         for (const auto& [value, word] : words) {

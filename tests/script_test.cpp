@@ -104,7 +104,7 @@ TEST(PushedTexts, LongScriptsAreWhole)
 {
     Script script;
     std::string expected;
-    for (std::size_t i = 0; i < 3000; i++) {
+    for (std::size_t i = 0; i < 3000; ++i) {
         const std::string line(i + 1, static_cast<char>('a' + i % 26));
         EXPECT_TRUE(push(script, line));
         expected += line + '\n';
@@ -115,7 +115,7 @@ TEST(PushedTexts, LongScriptsAreWhole)
 TEST(PushedTexts, LinesOfEveryLengthAroundPowersOfTwoAreWhole)
 {
     for (const std::size_t power : {1024U, 4096U, 8192U}) {
-        for (std::size_t length = power - 4; length < power + 4; length++) {
+        for (std::size_t length = power - 4; length < power + 4; ++length) {
             Script script;
             EXPECT_TRUE(push(script, std::string(length, 'v')));
             EXPECT_TRUE(push(script, "w"));
@@ -149,7 +149,7 @@ TEST(PushedTexts, RoomForALineIsAlwaysFound)
 {
     Script script;
     std::string expected;
-    for (std::size_t i = 0; i < 3000; i++) {
+    for (std::size_t i = 0; i < 3000; ++i) {
         const std::string line(1023, static_cast<char>('a' + i % 26));
         char* const room = script.room();
         ASSERT_NE(room, nullptr);

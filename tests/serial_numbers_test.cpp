@@ -32,7 +32,7 @@ TEST_F(SerialNumbers, ThePrettyLayoutIsForFourCapitalLetters)
 
 TEST_F(SerialNumbers, AnyOtherVendorByteBringsTheDenseLayout)
 {
-    for (int place = 0; place < 4; place++) {
+    for (int place = 0; place < 4; ++place) {
         for (const int byte : {0x00, 0x1F, 0x20, 0x30, 0x39, 0x40, 0x5B, 0x61, 0x7A, 0x7F, 0x80, 0xC1, 0xFF}) {
             SCOPED_TRACE(testing::Message() << "byte " << byte << " in place " << place);
             std::array<int, 4> vendor = {0x41, 0x42, 0x43, 0x44};

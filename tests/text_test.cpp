@@ -63,7 +63,7 @@ TEST(Digits, NaturalNumbers)
 TEST(Digits, NaturalNumbersAroundEachPowerOfTen)
 {
     std::uint64_t power = 1;
-    for (std::size_t zeros = 1; zeros < 20; zeros++) {
+    for (std::size_t zeros = 1; zeros < 20; ++zeros) {
         power *= 10;
         EXPECT_EQ(natural(power), "1" + std::string(zeros, '0'));
         EXPECT_EQ(natural(power - 1), std::string(zeros, '9'));
@@ -123,7 +123,7 @@ std::string identifier(int value)
 
 TEST(Digits, AreThoseOfThePrintingConversions)
 {
-    for (int value = 0; value < 100000; value++) {
+    for (int value = 0; value < 100000; ++value) {
         ASSERT_EQ(natural(static_cast<unsigned>(value)), printed_natural(static_cast<unsigned>(value)));
         for (const int either : {value, -value}) {
             ASSERT_EQ(decimal(either), printed_decimal(either));
@@ -139,7 +139,7 @@ TEST(Digits, AroundTheLimitsOfTheTypes)
     std::uint64_t power = 1;
     for (int zeros = 0; zeros < 20; zeros++, power *= 10)
         values.push_back(power);
-    for (unsigned bit = 0; bit < 64; bit++)
+    for (unsigned bit = 0; bit < 64; ++bit)
         values.push_back(std::uint64_t{1} << bit);
     for (const std::uint64_t about : values) {
         for (const std::uint64_t value : {about - 1, about, about + 1, 0 - about}) {
@@ -202,7 +202,7 @@ TEST(ScratchText, IdentifiersStandInFourCharactersOrMore)
 
 TEST(ScratchText, OfEveryLengthAroundItsRoomOnTheStack)
 {
-    for (std::size_t length = 1000; length < 1100; length++) {
+    for (std::size_t length = 1000; length < 1100; ++length) {
         const std::string bytes(length, 'v');
         Text whole;
         append(whole, bytes);
@@ -221,7 +221,7 @@ TEST(ScratchText, GrowsAsFarAsNeeded)
 {
     Text text;
     std::string expected;
-    for (std::size_t i = 0; i < 500; i++) {
+    for (std::size_t i = 0; i < 500; ++i) {
         const std::string piece(i * 7, static_cast<char>('a' + i % 26));
         append(text, piece);
         expected += piece;
@@ -261,7 +261,7 @@ TEST(ScratchText, ItsFrontIsReplaced)
 
 TEST(ScratchText, ItsFrontIsReplacedAcrossItsRoomOnTheStack)
 {
-    for (std::size_t length = 1000; length < 1060; length++) {
+    for (std::size_t length = 1000; length < 1060; ++length) {
         const std::string tail(length, 't');
         EXPECT_EQ(front_replaced("head" + tail, 4, "a longer head "), "a longer head " + tail);
         EXPECT_EQ(front_replaced("a longer head " + tail, 14, "head"), "head" + tail);

@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr std::size_t NUMBER = 256; ///< capacity of the numbers' buffers
+constexpr std::size_t number_size = 256; ///< capacity of the numbers' buffers
 
 /// The text, with zeros behind it up to the buffer's capacity; frees it.
 void expect_text(char* result, const std::string& text, std::size_t capacity)
@@ -53,59 +53,59 @@ void expect_s16s(std::vector<short> values, const std::string& text)
 
 TEST(ToStr, UnsignedNumbers)
 {
-    expect_text(u32_tostr(0), "0", NUMBER);
-    expect_text(u32_tostr(10), "10", NUMBER);
-    expect_text(u32_tostr(0x80000000), "2147483648", NUMBER);
-    expect_text(u32_tostr(UINT_MAX), "4294967295", NUMBER);
-    expect_text(u16_tostr(0), "0", NUMBER);
-    expect_text(u16_tostr(32768), "32768", NUMBER);
-    expect_text(u16_tostr(USHRT_MAX), "65535", NUMBER);
-    expect_text(u64_tostr(0), "0", NUMBER);
-    expect_text(u64_tostr(4294967296), "4294967296", NUMBER);
-    expect_text(u64_tostr(ULLONG_MAX), "18446744073709551615", NUMBER);
+    expect_text(u32_tostr(0), "0", number_size);
+    expect_text(u32_tostr(10), "10", number_size);
+    expect_text(u32_tostr(0x80000000), "2147483648", number_size);
+    expect_text(u32_tostr(UINT_MAX), "4294967295", number_size);
+    expect_text(u16_tostr(0), "0", number_size);
+    expect_text(u16_tostr(32768), "32768", number_size);
+    expect_text(u16_tostr(USHRT_MAX), "65535", number_size);
+    expect_text(u64_tostr(0), "0", number_size);
+    expect_text(u64_tostr(4294967296), "4294967296", number_size);
+    expect_text(u64_tostr(ULLONG_MAX), "18446744073709551615", number_size);
 }
 
 TEST(ToStr, SignedNumbers)
 {
-    expect_text(int_tostr(0), "0", NUMBER);
-    expect_text(int_tostr(-1), "-1", NUMBER);
-    expect_text(int_tostr(-128), "-128", NUMBER);
-    expect_text(int_tostr(255), "255", NUMBER);
-    expect_text(int_tostr(INT_MAX), "2147483647", NUMBER);
-    expect_text(int_tostr(INT_MIN), "-2147483648", NUMBER);
+    expect_text(int_tostr(0), "0", number_size);
+    expect_text(int_tostr(-1), "-1", number_size);
+    expect_text(int_tostr(-128), "-128", number_size);
+    expect_text(int_tostr(255), "255", number_size);
+    expect_text(int_tostr(INT_MAX), "2147483647", number_size);
+    expect_text(int_tostr(INT_MIN), "-2147483648", number_size);
 }
 
 TEST(ToStr, NumbersThatMayBeUnused)
 {
-    expect_text(int_tostr_or_unused(-1), "unused", NUMBER);
-    expect_text(int_tostr_or_unused(-2), "-2", NUMBER);
-    expect_text(int_tostr_or_unused(0), "0", NUMBER);
-    expect_text(int_tostr_or_unused(1), "1", NUMBER);
-    expect_text(int_tostr_or_unused(INT_MAX), "2147483647", NUMBER);
-    expect_text(int_tostr_or_unused(INT_MIN), "-2147483648", NUMBER);
+    expect_text(int_tostr_or_unused(-1), "unused", number_size);
+    expect_text(int_tostr_or_unused(-2), "-2", number_size);
+    expect_text(int_tostr_or_unused(0), "0", number_size);
+    expect_text(int_tostr_or_unused(1), "1", number_size);
+    expect_text(int_tostr_or_unused(INT_MAX), "2147483647", number_size);
+    expect_text(int_tostr_or_unused(INT_MIN), "-2147483648", number_size);
 }
 
 TEST(ToStr, BitErrorIntervals)
 {
-    expect_text(BerInterval_tostr(0xFFFFFFFF), "none", NUMBER);
-    expect_text(BerInterval_tostr(0xFFFFFFFE), "4294967294", NUMBER);
-    expect_text(BerInterval_tostr(0), "0", NUMBER);
-    expect_text(BerInterval_tostr(0x7FFFFFFF), "2147483647", NUMBER);
+    expect_text(BerInterval_tostr(0xFFFFFFFF), "none", number_size);
+    expect_text(BerInterval_tostr(0xFFFFFFFE), "4294967294", number_size);
+    expect_text(BerInterval_tostr(0), "0", number_size);
+    expect_text(BerInterval_tostr(0x7FFFFFFF), "2147483647", number_size);
 }
 
 TEST(ToStr, RealNumbers)
 {
-    expect_text(double_tostr(0), "0.000000", NUMBER);
-    expect_text(double_tostr(-0.0), "-0.000000", NUMBER);
-    expect_text(double_tostr(1.5), "1.500000", NUMBER);
-    expect_text(double_tostr(-23.75), "-23.750000", NUMBER);
-    expect_text(double_tostr(0.0000004), "0.000000", NUMBER);
-    expect_text(double_tostr(0.0000006), "0.000001", NUMBER);
-    expect_text(double_tostr(DBL_MIN), "0.000000", NUMBER);
-    expect_text(double_tostr(1e15), "1000000000000000.000000", NUMBER);
-    expect_text(double_tostr(std::numeric_limits<double>::infinity()), "inf", NUMBER);
-    expect_text(double_tostr(-std::numeric_limits<double>::infinity()), "-inf", NUMBER);
-    expect_text(double_tostr(std::numeric_limits<double>::quiet_NaN()), "nan", NUMBER);
+    expect_text(double_tostr(0), "0.000000", number_size);
+    expect_text(double_tostr(-0.0), "-0.000000", number_size);
+    expect_text(double_tostr(1.5), "1.500000", number_size);
+    expect_text(double_tostr(-23.75), "-23.750000", number_size);
+    expect_text(double_tostr(0.0000004), "0.000000", number_size);
+    expect_text(double_tostr(0.0000006), "0.000001", number_size);
+    expect_text(double_tostr(DBL_MIN), "0.000000", number_size);
+    expect_text(double_tostr(1e15), "1000000000000000.000000", number_size);
+    expect_text(double_tostr(std::numeric_limits<double>::infinity()), "inf", number_size);
+    expect_text(double_tostr(-std::numeric_limits<double>::infinity()), "-inf", number_size);
+    expect_text(double_tostr(std::numeric_limits<double>::quiet_NaN()), "nan", number_size);
 }
 
 TEST(ToStr, TheLargestRealNumberIsWrittenWhole)
@@ -114,38 +114,38 @@ TEST(ToStr, TheLargestRealNumberIsWrittenWhole)
                                "87605895586327668781715404589535143824642343213268894641827684675467035375169860"
                                "49910576551282076245490090389328944075868508455133942304583236903222948165808559"
                                "332123348274797826204144723168738177180919299881250404026184124858368.000000";
-    expect_text(double_tostr(DBL_MAX), digits, NUMBER);
-    expect_text(double_tostr(-DBL_MAX), "-" + digits, NUMBER);
+    expect_text(double_tostr(DBL_MAX), digits, number_size);
+    expect_text(double_tostr(-DBL_MAX), "-" + digits, number_size);
 }
 
 TEST(ToStr, HexadecimalNumbers)
 {
-    expect_text(u64_tostr_hex(0), "0x0", NUMBER);
-    expect_text(u64_tostr_hex(0xABCDEF), "0xABCDEF", NUMBER);
-    expect_text(u64_tostr_hex(0x100000000), "0x100000000", NUMBER);
-    expect_text(u64_tostr_hex(ULLONG_MAX), "0xFFFFFFFFFFFFFFFF", NUMBER);
-    expect_text(u32_tostr_hex(0), "0x0", NUMBER);
-    expect_text(u32_tostr_hex(0xBEEF), "0xBEEF", NUMBER);
-    expect_text(u32_tostr_hex(UINT_MAX), "0xFFFFFFFF", NUMBER);
+    expect_text(u64_tostr_hex(0), "0x0", number_size);
+    expect_text(u64_tostr_hex(0xABCDEF), "0xABCDEF", number_size);
+    expect_text(u64_tostr_hex(0x100000000), "0x100000000", number_size);
+    expect_text(u64_tostr_hex(ULLONG_MAX), "0xFFFFFFFFFFFFFFFF", number_size);
+    expect_text(u32_tostr_hex(0), "0x0", number_size);
+    expect_text(u32_tostr_hex(0xBEEF), "0xBEEF", number_size);
+    expect_text(u32_tostr_hex(UINT_MAX), "0xFFFFFFFF", number_size);
 }
 
 TEST(ToStr, HexadecimalNumbersOfAFixedWidth)
 {
-    expect_text(u16_tostr_hex(0), "0x0000", NUMBER);
-    expect_text(u16_tostr_hex(5), "0x0005", NUMBER);
-    expect_text(u16_tostr_hex(0x88a8), "0x88A8", NUMBER);
-    expect_text(u16_tostr_hex(USHRT_MAX), "0xFFFF", NUMBER);
-    expect_text(int_3byte_tostr_hex(0), "0x000000", NUMBER);
-    expect_text(int_3byte_tostr_hex(0xAB), "0x0000AB", NUMBER);
-    expect_text(int_3byte_tostr_hex(0xFFFFFF), "0xFFFFFF", NUMBER);
-    expect_text(int_3byte_tostr_hex(0x1000000), "0x1000000", NUMBER);
-    expect_text(int_3byte_tostr_hex(-1), "0xFFFFFFFF", NUMBER);
-    expect_text(int_3byte_tostr_hex(INT_MIN), "0x80000000", NUMBER);
-    expect_text(int_tostr_hex(0), "0x00000000", NUMBER);
-    expect_text(int_tostr_hex(0x1a2b3c), "0x001A2B3C", NUMBER);
-    expect_text(int_tostr_hex(INT_MAX), "0x7FFFFFFF", NUMBER);
-    expect_text(int_tostr_hex(-1), "0xFFFFFFFF", NUMBER);
-    expect_text(int_tostr_hex(INT_MIN), "0x80000000", NUMBER);
+    expect_text(u16_tostr_hex(0), "0x0000", number_size);
+    expect_text(u16_tostr_hex(5), "0x0005", number_size);
+    expect_text(u16_tostr_hex(0x88a8), "0x88A8", number_size);
+    expect_text(u16_tostr_hex(USHRT_MAX), "0xFFFF", number_size);
+    expect_text(int_3byte_tostr_hex(0), "0x000000", number_size);
+    expect_text(int_3byte_tostr_hex(0xAB), "0x0000AB", number_size);
+    expect_text(int_3byte_tostr_hex(0xFFFFFF), "0xFFFFFF", number_size);
+    expect_text(int_3byte_tostr_hex(0x1000000), "0x1000000", number_size);
+    expect_text(int_3byte_tostr_hex(-1), "0xFFFFFFFF", number_size);
+    expect_text(int_3byte_tostr_hex(INT_MIN), "0x80000000", number_size);
+    expect_text(int_tostr_hex(0), "0x00000000", number_size);
+    expect_text(int_tostr_hex(0x1a2b3c), "0x001A2B3C", number_size);
+    expect_text(int_tostr_hex(INT_MAX), "0x7FFFFFFF", number_size);
+    expect_text(int_tostr_hex(-1), "0xFFFFFFFF", number_size);
+    expect_text(int_tostr_hex(INT_MIN), "0x80000000", number_size);
 }
 
 // -------------------------------------------------------------------------------------------- addresses and the like
@@ -237,7 +237,7 @@ TEST(ToStr, ArraysOfBytes)
     expect_u8s({0, 255, 0}, "0,255,0");
     expect_u8s({255, 255, 255, 255}, "255,255,255,255");
     std::string many = "255";
-    for (int i = 1; i < 300; i++)
+    for (int i = 1; i < 300; ++i)
         many += ",255";
     expect_u8s(std::vector<unsigned char>(300, 255), many);
 }
@@ -248,7 +248,7 @@ TEST(ToStr, ArraysOfShorts)
     expect_s16s({-1}, "-1");
     expect_s16s({0, SHRT_MAX, SHRT_MIN}, "0,32767,-32768");
     std::string many = "-32768";
-    for (int i = 1; i < 300; i++)
+    for (int i = 1; i < 300; ++i)
         many += ",-32768";
     expect_s16s(std::vector<short>(300, SHRT_MIN), many);
 }

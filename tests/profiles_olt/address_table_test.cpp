@@ -86,9 +86,11 @@ TEST_F(SvlanEntry, EverySettingOn)
     diff.after.use_cvlan = 1;
     diff.after.use_pbits = 1;
     diff.after.discard_unknown = 1;
-    EXPECT_EQ(diff.elements(),
-              (Elements{"", "s-vlan 100 forwarding-mode \"1-to-1\"", "", "s-vlan 100 use s-vlan", "",
-                        "s-vlan 100 use c-vlan", "", "s-vlan 100 use pbits", "", "s-vlan 100 discard-unknown"}));
+    EXPECT_EQ(diff.elements(), behind("", "s-vlan 100 forwarding-mode \"1-to-1\"\n"
+                                          "s-vlan 100 use s-vlan\n"
+                                          "s-vlan 100 use c-vlan\n"
+                                          "s-vlan 100 use pbits\n"
+                                          "s-vlan 100 discard-unknown\n"));
 }
 
 TEST_F(SvlanEntry, EverySettingOff)
@@ -98,9 +100,11 @@ TEST_F(SvlanEntry, EverySettingOff)
     diff.before.use_cvlan = 1;
     diff.before.use_pbits = 1;
     diff.before.discard_unknown = 1;
-    EXPECT_EQ(diff.elements(), (Elements{"", "s-vlan 100 forwarding-mode \"n-to-1\"", "", "no s-vlan 100 use s-vlan",
-                                         "", "no s-vlan 100 use c-vlan", "", "no s-vlan 100 use pbits", "",
-                                         "no s-vlan 100 discard-unknown"}));
+    EXPECT_EQ(diff.elements(), behind("", "s-vlan 100 forwarding-mode \"n-to-1\"\n"
+                                          "no s-vlan 100 use s-vlan\n"
+                                          "no s-vlan 100 use c-vlan\n"
+                                          "no s-vlan 100 use pbits\n"
+                                          "no s-vlan 100 discard-unknown\n"));
 }
 
 TEST_F(SvlanEntry, EachSettingByItself)

@@ -251,8 +251,10 @@ TEST_F(DhcpRaProfile, RemovedShowsItsChangedFieldsAlone)
     put(diff.before.circuit_id_format, "c");
     put(diff.before.trusted_secondary, {192, 0, 2, 2});
     diff.after = GPonProfileOltDhcpRa{};
-    EXPECT_EQ(elements(), (Elements{"configure terminal\nprofile dhcp-ra \"office\"", "name \"\"", "",
-                                    "overwrite-option82 circuit-id \"\"", "", "trusted secondary \"0.0.0.0\""}));
+    EXPECT_EQ(elements(),
+              behind("configure terminal\nprofile dhcp-ra \"office\"", "name \"\"\n"
+                                                                       "overwrite-option82 circuit-id \"\"\n"
+                                                                       "trusted secondary \"0.0.0.0\"\n"));
 }
 
 TEST_F(DhcpRaProfile, OtherFlagsThanOneNeitherCreateNorRename)

@@ -268,8 +268,9 @@ TEST_F(PppoeIaProfile, RemovedShowsItsChangedFieldsAlone)
     diff.before.pppoe_plus_enabled = 1;
     diff.before.max_number_pppoe_sessions = 64;
     diff.after = GPonProfileOltPppoeIa{};
-    EXPECT_EQ(elements(), (Elements{"configure terminal\nprofile pppoe-ia \"office\"", "name \"\"", "", "no enable", "",
-                                    "sessions-limit 0"}));
+    EXPECT_EQ(elements(), behind("configure terminal\nprofile pppoe-ia \"office\"", "name \"\"\n"
+                                                                                    "no enable\n"
+                                                                                    "sessions-limit 0\n"));
 }
 
 TEST_F(PppoeIaProfile, OtherFlagsThanOneNeitherCreateNorRename)

@@ -111,11 +111,9 @@ TEST_F(AllocProfile, SchemeComesBeforeTheSla)
     put(diff.after.description, "voice");
     diff.after.allocate_new_alloc = 1;
     diff.after.dba.sla_data.service_class = 3;
-    EXPECT_EQ(diff.elements(), (Elements{
-                                   "", "description \"voice\"",                 //
-                                   "", "allocation-scheme allocate-new-t-cont", //
-                                   "", "sla class \"cbr\"",                     //
-                               }));
+    EXPECT_EQ(diff.elements(), behind("", "description \"voice\"\n"
+                                          "allocation-scheme allocate-new-t-cont\n"
+                                          "sla class \"cbr\"\n"));
     EXPECT_EQ(diff.key[0], 5);
     EXPECT_EQ(diff.key[1], 0);
 }
@@ -145,11 +143,9 @@ TEST_F(AllocProfile, NewProfileIsEnteredThenItsSchemeThenItsSla)
     diff.before = GPonProfileOntAlloc{};
     diff.after.allocate_new_alloc = 1;
     diff.after.dba.sla_data.guaranteed_bandwidth = 1000;
-    EXPECT_EQ(diff.elements(), (Elements{
-                                   "configure terminal\nprofile dba \"gold\"",  //
-                                   "", "allocation-scheme allocate-new-t-cont", //
-                                   "", "bandwidth guaranteed \"1000\"",         //
-                               }));
+    EXPECT_EQ(diff.elements(),
+              (Elements{"configure terminal\nprofile dba \"gold\"", "", "allocation-scheme allocate-new-t-cont", "",
+                        "bandwidth guaranteed \"1000\""}));
 }
 
 TEST_F(AllocProfile, DumpForcesEveryStepWhateverPartIsWanted)

@@ -45,21 +45,19 @@ TEST_F(CrossConnect, EveryFieldInOrder)
     diff.after.type = 3;
     diff.after.iphost_eid = 1;
     diff.after.priority_queue = 7;
-    EXPECT_EQ(diff.elements(), (Elements{
-                                   "", "description \"triple play\"", //
-                                   "", "bridge",                      //
-                                   "", "bridge group \"10\"",         //
-                                   "", "tag-mode double-tagged",      //
-                                   "", "outer vid \"100\"",           //
-                                   "", "outer cos \"5\"",             //
-                                   "", "inner vid \"200\"",           //
-                                   "", "user vid \"300\"",            //
-                                   "", "user cos \"6\"",              //
-                                   "", "mac-table-limit \"16\"",      //
-                                   "", "type \"multicast\"",          //
-                                   "", "iphost \"1\"",                //
-                                   "", "priority \"7\"",              //
-                               }));
+    EXPECT_EQ(diff.elements(), behind("", "description \"triple play\"\n"
+                                          "bridge\n"
+                                          "bridge group \"10\"\n"
+                                          "tag-mode double-tagged\n"
+                                          "outer vid \"100\"\n"
+                                          "outer cos \"5\"\n"
+                                          "inner vid \"200\"\n"
+                                          "user vid \"300\"\n"
+                                          "user cos \"6\"\n"
+                                          "mac-table-limit \"16\"\n"
+                                          "type \"multicast\"\n"
+                                          "iphost \"1\"\n"
+                                          "priority \"7\"\n"));
 }
 
 TEST_F(CrossConnect, EachFieldAlone)

@@ -44,18 +44,16 @@ TEST_F(Multicast, EveryIgmpFieldInOrder)
     igmp.after.last_member_query_interval = 10;
     igmp.after.multicast_dynamic_entry[0].vlan_id = 30;
     put(igmp.after.multicast_dynamic_entry[19].first_group_ip, {224, 0, 1, 1});
-    EXPECT_EQ(igmp.elements(), (Elements{
-                                   "", "igmp version \"3\"",                                                //
-                                   "", "igmp mode \"snooping-with-proxy-reporting\"",                       //
-                                   "", "igmp immediate-leave",                                              //
-                                   "", "igmp robustness \"2\"",                                             //
-                                   "", "igmp querier \"192.0.2.1\"",                                        //
-                                   "", "igmp query interval \"125\"",                                       //
-                                   "", "igmp query response \"100\"",                                       //
-                                   "", "igmp query last-member \"10\"",                                     //
-                                   "", "igmp multicast dynamic-entry    0 vid \"30\"",                      //
-                                   "", "igmp multicast dynamic-entry   19 group \"224.0.1.1\" \"0.0.0.0\"", //
-                               }));
+    EXPECT_EQ(igmp.elements(), behind("", "igmp version \"3\"\n"
+                                          "igmp mode \"snooping-with-proxy-reporting\"\n"
+                                          "igmp immediate-leave\n"
+                                          "igmp robustness \"2\"\n"
+                                          "igmp querier \"192.0.2.1\"\n"
+                                          "igmp query interval \"125\"\n"
+                                          "igmp query response \"100\"\n"
+                                          "igmp query last-member \"10\"\n"
+                                          "igmp multicast dynamic-entry    0 vid \"30\"\n"
+                                          "igmp multicast dynamic-entry   19 group \"224.0.1.1\" \"0.0.0.0\"\n"));
     EXPECT_EQ(igmp.key[0], 3);
     EXPECT_EQ(igmp.key[1], 19);
 }
@@ -107,18 +105,16 @@ TEST_F(Multicast, EveryMldFieldInOrder)
     mld.after.last_member_query_interval = 10;
     mld.after.multicast_dynamic_entry_mld[0].vlan_id = 31;
     mld.after.multicast_dynamic_entry_mld[19].preview_length = 5;
-    EXPECT_EQ(mld.elements(), (Elements{
-                                  "", "mld version \"2\"",                                     //
-                                  "", "mld mode \"proxy\"",                                    //
-                                  "", "mld immediate-leave",                                   //
-                                  "", "mld robustness \"3\"",                                  //
-                                  "", "mld querier \"2001:db8::1\"",                           //
-                                  "", "mld query interval \"125\"",                            //
-                                  "", "mld query response \"100\"",                            //
-                                  "", "mld query last-member \"10\"",                          //
-                                  "", "mld multicast dynamic-entry    0 vid \"31\"",           //
-                                  "", "mld multicast dynamic-entry   19 preview-length \"5\"", //
-                              }));
+    EXPECT_EQ(mld.elements(), behind("", "mld version \"2\"\n"
+                                         "mld mode \"proxy\"\n"
+                                         "mld immediate-leave\n"
+                                         "mld robustness \"3\"\n"
+                                         "mld querier \"2001:db8::1\"\n"
+                                         "mld query interval \"125\"\n"
+                                         "mld query response \"100\"\n"
+                                         "mld query last-member \"10\"\n"
+                                         "mld multicast dynamic-entry    0 vid \"31\"\n"
+                                         "mld multicast dynamic-entry   19 preview-length \"5\"\n"));
     EXPECT_EQ(mld.key[0], 3);
     EXPECT_EQ(mld.key[1], 19);
 }

@@ -31,16 +31,14 @@ TEST(MulticastClient, EveryFieldOfAUniPortInOrder)
     client.after.downstream_multicast_tag_control = 7;
     client.after.max_groups = 64;
     client.after.max_multicast_bandwidth = 100000;
-    EXPECT_EQ(client.elements(), (Elements{
-                                     "", "port    2 igmp upstream vid \"30\"",                                     //
-                                     "", "port    2 igmp upstream priority \"4\"",                                 //
-                                     "", "port    2 igmp upstream tag-control add-tag",                            //
-                                     "", "port    2 igmp downstream vid \"31\"",                                   //
-                                     "", "port    2 igmp downstream priority \"5\"",                               //
-                                     "", "port    2 igmp downstream tag-control replace-vid-from-subscriber-info", //
-                                     "", "port    2 igmp max groups \"64\"",                                       //
-                                     "", "port    2 igmp max bandwidth \"100000\"",                                //
-                                 }));
+    EXPECT_EQ(client.elements(), behind("", "port    2 igmp upstream vid \"30\"\n"
+                                            "port    2 igmp upstream priority \"4\"\n"
+                                            "port    2 igmp upstream tag-control add-tag\n"
+                                            "port    2 igmp downstream vid \"31\"\n"
+                                            "port    2 igmp downstream priority \"5\"\n"
+                                            "port    2 igmp downstream tag-control replace-vid-from-subscriber-info\n"
+                                            "port    2 igmp max groups \"64\"\n"
+                                            "port    2 igmp max bandwidth \"100000\"\n"));
     EXPECT_EQ(client.key[1], 2);
 }
 
@@ -133,18 +131,14 @@ TEST(UniShaping, EveryFieldInOrder)
 {
     Part<Shaping> downstream{getdiff_GPonUniShapingDownstream};
     downstream.after = {1, 64, 4294967295U};
-    EXPECT_EQ(downstream.elements(), (Elements{
-                                         "", "port    2 shaper downstream",                          //
-                                         "", "port    2 shaper downstream commited-rate \"64\"",     //
-                                         "", "port    2 shaper downstream peak-rate \"4294967295\"", //
-                                     }));
+    EXPECT_EQ(downstream.elements(), behind("", "port    2 shaper downstream\n"
+                                                "port    2 shaper downstream commited-rate \"64\"\n"
+                                                "port    2 shaper downstream peak-rate \"4294967295\"\n"));
     Part<Shaping> upstream{getdiff_GPonUniShapingUpstream};
     upstream.after = {1, 4294967295U, 128};
-    EXPECT_EQ(upstream.elements(), (Elements{
-                                       "", "port    2 shaper upstream",                              //
-                                       "", "port    2 shaper upstream commited-rate \"4294967295\"", //
-                                       "", "port    2 shaper upstream peak-rate \"128\"",            //
-                                   }));
+    EXPECT_EQ(upstream.elements(), behind("", "port    2 shaper upstream\n"
+                                              "port    2 shaper upstream commited-rate \"4294967295\"\n"
+                                              "port    2 shaper upstream peak-rate \"128\"\n"));
 }
 
 TEST(UniShaping, EachFieldAlone)
@@ -216,18 +210,16 @@ TEST(UniPort, EveryFieldInOrder)
     port.after.multicast_port_settings.max_multicast_bandwidth = 5;
     port.after.shaper_downstream.enable = 1;
     port.after.shaper_upstream.peak_rate = 64;
-    EXPECT_EQ(port.elements(), (Elements{
-                                   "", "port    2 speed \"1000m\"",                  //
-                                   "", "port    2 duplex \"full\"",                  //
-                                   "", "port    2 bridge group \"10\"",              //
-                                   "", "port    2 bridge group spanning-tree",       //
-                                   "", "port    2 remove-tag",                       //
-                                   "", "port    2 multicast",                        //
-                                   "", "port    2 igmp upstream vid \"30\"",         //
-                                   "", "port    2 igmp max bandwidth \"5\"",         //
-                                   "", "port    2 shaper downstream",                //
-                                   "", "port    2 shaper upstream peak-rate \"64\"", //
-                               }));
+    EXPECT_EQ(port.elements(), behind("", "port    2 speed \"1000m\"\n"
+                                          "port    2 duplex \"full\"\n"
+                                          "port    2 bridge group \"10\"\n"
+                                          "port    2 bridge group spanning-tree\n"
+                                          "port    2 remove-tag\n"
+                                          "port    2 multicast\n"
+                                          "port    2 igmp upstream vid \"30\"\n"
+                                          "port    2 igmp max bandwidth \"5\"\n"
+                                          "port    2 shaper downstream\n"
+                                          "port    2 shaper upstream peak-rate \"64\"\n"));
     EXPECT_EQ(port.key[1], 2);
 }
 
@@ -370,17 +362,15 @@ TEST_F(PortsProfile, EveryPartInOrder)
     diff.after.veip.multicast_enable = 1;
     diff.after.port[0].multicast_port_settings.upstream_igmp_vid = 30;
     diff.after.port[3].bridge_group = 1;
-    EXPECT_EQ(diff.elements(), (Elements{
-                                   "", "description \"four ports\"",                   //
-                                   "", "multicast ip version dual-stack",              //
-                                   "", "igmp version \"2\"",                           //
-                                   "", "igmp multicast dynamic-entry   12 vid \"30\"", //
-                                   "", "mld version \"1\"",                            //
-                                   "", "mld multicast dynamic-entry    1 vid \"31\"",  //
-                                   "", "veip multicast",                               //
-                                   "", "port    0 igmp upstream vid \"30\"",           //
-                                   "", "port    3 bridge group \"1\"",                 //
-                               }));
+    EXPECT_EQ(diff.elements(), behind("", "description \"four ports\"\n"
+                                          "multicast ip version dual-stack\n"
+                                          "igmp version \"2\"\n"
+                                          "igmp multicast dynamic-entry   12 vid \"30\"\n"
+                                          "mld version \"1\"\n"
+                                          "mld multicast dynamic-entry    1 vid \"31\"\n"
+                                          "veip multicast\n"
+                                          "port    0 igmp upstream vid \"30\"\n"
+                                          "port    3 bridge group \"1\"\n"));
     EXPECT_EQ(diff.key[0], 5);
     EXPECT_EQ(diff.key[1], 3);
 }

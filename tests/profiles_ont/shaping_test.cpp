@@ -41,10 +41,8 @@ TEST(DownstreamPolicer, BothFieldsInOrder)
 {
     Part<Policer> policer{getdiff_GPonOntShapingDownstreamParams};
     policer.after = {1, 64};
-    EXPECT_EQ(policer.elements(), (Elements{
-                                      "", "downstream policer    3 enable",           //
-                                      "", "downstream policer    3 peak-rate \"64\"", //
-                                  }));
+    EXPECT_EQ(policer.elements(), behind("", "downstream policer    3 enable\n"
+                                             "downstream policer    3 peak-rate \"64\"\n"));
     EXPECT_EQ(policer.key[1], 3);
 }
 
@@ -63,11 +61,9 @@ TEST(Downstream, OnePolicerComesBeforeThePolicers)
     downstream.after.one_policer = 1;
     downstream.after.policer[0].enable = 1;
     downstream.after.policer[15].peak_rate = 64;
-    EXPECT_EQ(downstream.elements(), (Elements{
-                                         "", "downstream one-policer",                   //
-                                         "", "downstream policer    0 enable",           //
-                                         "", "downstream policer   15 peak-rate \"64\"", //
-                                     }));
+    EXPECT_EQ(downstream.elements(), behind("", "downstream one-policer\n"
+                                                "downstream policer    0 enable\n"
+                                                "downstream policer   15 peak-rate \"64\"\n"));
     EXPECT_EQ(downstream.key[0], 8);
     EXPECT_EQ(downstream.key[1], 15);
 }
@@ -140,14 +136,9 @@ TEST(UpstreamShaper, ClassWithoutAWordHasTwoBlanks)
     // Two blanks and the three that align the number.
     Part<Shaper> shaper{getdiff_GPonOntShapingUpstreamParams, ""};
     shaper.after = {1, 64, 128};
-    EXPECT_EQ(shaper.elements(), (Elements{
-                                     "",
-                                     "upstream     3 enable", //
-                                     "",
-                                     "upstream     3 commited-rate 64", //
-                                     "",
-                                     "upstream     3 peak-rate 128", //
-                                 }));
+    EXPECT_EQ(shaper.elements(), behind("", "upstream     3 enable\n"
+                                            "upstream     3 commited-rate 64\n"
+                                            "upstream     3 peak-rate 128\n"));
     std::swap(shaper.before, shaper.after);
     EXPECT_EQ(shaper.script(), "no upstream     3 enable\n"
                                "upstream     3 commited-rate 0\n"
@@ -185,16 +176,12 @@ TEST(Upstream, ClassesInOrderAndStormControlLast)
     upstream.after.shaper_unicast[15].peak_rate = 64;
     upstream.after.shaper[0].peak_rate = 1;
     upstream.after.shaper[3].enable = 1;
-    EXPECT_EQ(upstream.elements(), (Elements{
-                                       "",
-                                       "upstream     0 peak-rate 1", //
-                                       "",
-                                       "upstream     3 enable",                               //
-                                       "", "upstream unicast   15 peak-rate 64",              //
-                                       "", "upstream multicast    1 enable",                  //
-                                       "", "upstream broadcast    0 commited-rate -1",        //
-                                       "", "upstream broadcast storm-control rate-limit 100", //
-                                   }));
+    EXPECT_EQ(upstream.elements(), behind("", "upstream     0 peak-rate 1\n"
+                                              "upstream     3 enable\n"
+                                              "upstream unicast   15 peak-rate 64\n"
+                                              "upstream multicast    1 enable\n"
+                                              "upstream broadcast    0 commited-rate -1\n"
+                                              "upstream broadcast storm-control rate-limit 100\n"));
     EXPECT_EQ(upstream.key[0], 8);
     EXPECT_EQ(upstream.key[1], 15);
 }
@@ -298,10 +285,8 @@ TEST(StormControl, BroadcastComesFirstAndEachBringsItsNavigation)
 {
     Part<Storm> storm{getdiff_GPonOntStormControl};
     storm.after = {100, 200, 1, 0, 0, 1};
-    EXPECT_EQ(storm.elements(), (Elements{
-                                    "", "upstream broadcast storm-control rate-limit 100 logging",  //
-                                    "", "upstream multicast storm-control rate-limit 200 shutdown", //
-                                }));
+    EXPECT_EQ(storm.elements(), behind("", "upstream broadcast storm-control rate-limit 100 logging\n"
+                                           "upstream multicast storm-control rate-limit 200 shutdown\n"));
     EXPECT_EQ(storm.key[1], 3);
 }
 
@@ -423,12 +408,10 @@ TEST_F(ShapingProfile, EveryPartInOrder)
     diff.after.downstream.policer[1].enable = 1;
     diff.after.upstream.shaper_unicast[12].enable = 1;
     diff.after.upstream.storm_control.multicast_logging = 1;
-    EXPECT_EQ(diff.elements(), (Elements{
-                                   "", "description \"slow lane\"",                //
-                                   "", "downstream policer    1 enable",           //
-                                   "", "upstream unicast   12 enable",             //
-                                   "", "upstream multicast storm-control logging", //
-                               }));
+    EXPECT_EQ(diff.elements(), behind("", "description \"slow lane\"\n"
+                                          "downstream policer    1 enable\n"
+                                          "upstream unicast   12 enable\n"
+                                          "upstream multicast storm-control logging\n"));
     EXPECT_EQ(diff.key[0], 5);
     EXPECT_EQ(diff.key[1], 15);
 }

@@ -7,10 +7,24 @@
 #include "pon/diff_builder.h"
 
 #include <cstdlib>
+#include <sstream>
 #include <string>
 #include <vector>
 
 using Elements = std::vector<std::string>;
+
+/// The elements of commands, a line of text each, behind their navigations: the first one's is `entry`, the others
+/// stand where they belong already.
+inline Elements behind(const std::string& entry, const std::string& commands)
+{
+    Elements elements;
+    std::istringstream lines(commands);
+    for (std::string command; std::getline(lines, command);) {
+        elements.push_back(elements.empty() ? entry : "");
+        elements.push_back(command);
+    }
+    return elements;
+}
 
 inline Elements elements_of(const List<char>& list)
 {

@@ -122,8 +122,8 @@ TEST(Https, ChangedEntriesShowTheirIndex)
     Diff https{getdiff_GSystemHttpsCfg};
     fill_entry(https.after, 1, {192, 0, 2, 0}, 24);
     fill_entry(https.after, 10, {192, 0, 3, 0}, 25);
-    EXPECT_EQ(https.elements(), (Elements{"configure terminal", "https allow ip    1 mask \"24\"", "",
-                                          "https allow ip   10 mask \"25\""}));
+    EXPECT_EQ(https.elements(), behind("configure terminal", "https allow ip    1 mask \"24\"\n"
+                                                             "https allow ip   10 mask \"25\"\n"));
 }
 
 TEST(Https, PrintAllShowsEveryEntry)

@@ -17,10 +17,10 @@ TEST(AlarmType, EveryFieldInOrder)
     alarm.after.send_on_in = 1;
     alarm.after.send_on_out = 1;
     alarm.after.ttl = 2147483647;
-    EXPECT_EQ(alarm.elements(), (Elements{"configure terminal", "alarm ont-storm-detected severity \"major\"", //
-                                          "", "alarm ont-storm-detected in true",                              //
-                                          "", "alarm ont-storm-detected out true",                             //
-                                          "", "alarm ont-storm-detected ttl \"2147483647\""}));
+    EXPECT_EQ(alarm.elements(), behind("configure terminal", "alarm ont-storm-detected severity \"major\"\n"
+                                                             "alarm ont-storm-detected in true\n"
+                                                             "alarm ont-storm-detected out true\n"
+                                                             "alarm ont-storm-detected ttl \"2147483647\"\n"));
 }
 
 TEST(AlarmType, EachFieldAlone)
@@ -123,13 +123,13 @@ TEST(AlarmThresholds, EveryFieldInOrder)
     alarm.after.temperature[1] = 255;
     alarm.after.min_temperature[0] = -128;
     alarm.after.min_temperature[1] = 127;
-    EXPECT_EQ(alarm.elements(), (Elements{"configure terminal", "alarm load-average level \"255\"", //
-                                          "", "alarm ram free-ram \"65535\"",                       //
-                                          "", "alarm free-space level \"10\"",                      //
-                                          "", "alarm temperature sensor1 max \"70\"",               //
-                                          "", "alarm temperature sensor2 max \"255\"",              //
-                                          "", "alarm temperature sensor1 min \"-128\"",             //
-                                          "", "alarm temperature sensor2 min \"127\""}));
+    EXPECT_EQ(alarm.elements(), behind("configure terminal", "alarm load-average level \"255\"\n"
+                                                             "alarm ram free-ram \"65535\"\n"
+                                                             "alarm free-space level \"10\"\n"
+                                                             "alarm temperature sensor1 max \"70\"\n"
+                                                             "alarm temperature sensor2 max \"255\"\n"
+                                                             "alarm temperature sensor1 min \"-128\"\n"
+                                                             "alarm temperature sensor2 min \"127\"\n"));
 }
 
 TEST(AlarmThresholds, OtherLoadAveragesAndFanSpeedsHaveNoCommand)

@@ -9,10 +9,10 @@ TEST(Backup, EveryFieldInOrder)
     backup.after.backup_on_timer = 1;
     backup.after.backup_on_timer_period = 2147483647;
     put(backup.after.backup_uri, "tftp://192.0.2.5/olt-17");
-    EXPECT_EQ(backup.elements(), (Elements{"configure terminal", "backup on save",   //
-                                           "", "backup on timer",                    //
-                                           "", "backup timer period \"2147483647\"", //
-                                           "", "backup uri \"tftp://192.0.2.5/olt-17\""}));
+    EXPECT_EQ(backup.elements(), behind("configure terminal", "backup on save\n"
+                                                              "backup on timer\n"
+                                                              "backup timer period \"2147483647\"\n"
+                                                              "backup uri \"tftp://192.0.2.5/olt-17\"\n"));
 }
 
 TEST(Backup, SwitchedOff)

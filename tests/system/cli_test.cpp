@@ -8,9 +8,9 @@ TEST(Cli, EveryFieldInOrder)
     cli.after.session_timeout = 4294967295U;
     cli.after.number_of_cli_sessions = 255;
     cli.after.custom_ont_list_showing.rssi = 1;
-    EXPECT_EQ(cli.elements(), (Elements{"configure terminal", "cli session-timeout \"4294967295\"", //
-                                        "", "cli max-sessions \"255\"",                             //
-                                        "", "cli display rssi"}));
+    EXPECT_EQ(cli.elements(), behind("configure terminal", "cli session-timeout \"4294967295\"\n"
+                                                           "cli max-sessions \"255\"\n"
+                                                           "cli display rssi\n"));
 }
 
 TEST(Cli, EachFieldAlone)

@@ -11,12 +11,12 @@ TEST(Syslog, EveryFieldInOrder)
     syslog.after.destinations.console = 2;
     syslog.after.destinations.remotes = 3;
     syslog.after.destinations.file = 4;
-    EXPECT_EQ(syslog.elements(), (Elements{"configure terminal", "logging remote \"192.0.2.14\"", //
-                                           "", "logging buffer \"4294967295\"",                   //
-                                           "", "logging system loglevel \"alert\"",               //
-                                           "", "logging console loglevel \"critical\"",           //
-                                           "", "logging rsh loglevel \"error\"",                  //
-                                           "", "logging file loglevel \"warning\""}));
+    EXPECT_EQ(syslog.elements(), behind("configure terminal", "logging remote \"192.0.2.14\"\n"
+                                                              "logging buffer \"4294967295\"\n"
+                                                              "logging system loglevel \"alert\"\n"
+                                                              "logging console loglevel \"critical\"\n"
+                                                              "logging rsh loglevel \"error\"\n"
+                                                              "logging file loglevel \"warning\"\n"));
 }
 
 TEST(Syslog, SwitchHasNoCommand)

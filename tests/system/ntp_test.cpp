@@ -10,11 +10,11 @@ TEST(Ntp, EveryFieldInOrder)
     ntp.after.interval = 65535;
     ntp.after.timezone = 12;
     ntp.after.daylightsaving = 1;
-    EXPECT_EQ(ntp.elements(), (Elements{"configure terminal", "ip ntp enable", //
-                                        "", "ip ntp ip \"192.0.2.123\"",       //
-                                        "", "ip ntp interval \"65535\"",       //
-                                        "", "ip ntp timezone \"12\"",          //
-                                        "", "ip ntp daylightsaving"}));
+    EXPECT_EQ(ntp.elements(), behind("configure terminal", "ip ntp enable\n"
+                                                           "ip ntp ip \"192.0.2.123\"\n"
+                                                           "ip ntp interval \"65535\"\n"
+                                                           "ip ntp timezone \"12\"\n"
+                                                           "ip ntp daylightsaving\n"));
 }
 
 TEST(Ntp, SwitchedOff)

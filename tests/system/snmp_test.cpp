@@ -67,9 +67,9 @@ TEST(Snmp, NavigationIsAnElementBeforeEachCommand)
     put(snmp.after.trap, "traps");
     put(snmp.after.traps[1].ipaddr, {192, 0, 2, 9});
     snmp.after.alias[0].upDownTrapEnable = 1;
-    EXPECT_EQ(snmp.elements(), (Elements{"configure terminal", "ip snmp trap-community \"traps\"", //
-                                         "", "ip snmp traps 192.0.2.9 type v1",                    //
-                                         "", "ip snmp alias name    0 up-down-trap"}));
+    EXPECT_EQ(snmp.elements(), behind("configure terminal", "ip snmp trap-community \"traps\"\n"
+                                                            "ip snmp traps 192.0.2.9 type v1\n"
+                                                            "ip snmp alias name    0 up-down-trap\n"));
     EXPECT_EQ(snmp.key[0], 17);
 }
 
@@ -250,8 +250,8 @@ TEST(SnmpAlias, ForcedByPrintAll)
     alias.after = alias.before;
     EXPECT_EQ(alias.elements(), Elements{});
     alias.all = 1;
-    EXPECT_EQ(alias.elements(), (Elements{"configure terminal", "ip snmp alias name \"uplink\"", "",
-                                          "ip snmp alias name    0 up-down-trap"}));
+    EXPECT_EQ(alias.elements(), behind("configure terminal", "ip snmp alias name \"uplink\"\n"
+                                                             "ip snmp alias name    0 up-down-trap\n"));
 }
 
 } // namespace

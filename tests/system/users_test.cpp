@@ -62,8 +62,8 @@ TEST_F(Users, EqualRecordsLeaveTheKeyAlone)
 TEST_F(Users, NewUserIsCreatedByItsPassword)
 {
     diff.before = GSystemUser{};
-    EXPECT_EQ(elements(), (Elements{"configure terminal", "user \"admin\" crypted_password \"$1$Kq8$old\"", "",
-                                    "user \"admin\" privilege \"15\""}));
+    EXPECT_EQ(elements(), behind("configure terminal", "user \"admin\" crypted_password \"$1$Kq8$old\"\n"
+                                                       "user \"admin\" privilege \"15\"\n"));
 }
 
 TEST_F(Users, NewUserGetsItsPasswordEvenWhereTheSlotHeldTheSame)
@@ -183,8 +183,8 @@ TEST_F(Users, PrintAllShowsPasswordAndPrivilege)
     for (const int common : {0, 1, 2}) {
         diff.all = 1;
         diff.common = common;
-        EXPECT_EQ(elements(), (Elements{"configure terminal", "user \"admin\" crypted_password \"$1$Kq8$old\"", "",
-                                        "user \"admin\" privilege \"15\""}));
+        EXPECT_EQ(elements(), behind("configure terminal", "user \"admin\" crypted_password \"$1$Kq8$old\"\n"
+                                                           "user \"admin\" privilege \"15\"\n"));
         EXPECT_EQ(diff.key[1], 15);
     }
 }
