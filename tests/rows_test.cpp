@@ -41,7 +41,7 @@ class Rows : public testing::Test {
     Elements changed(const Row<Everything>& row, const Value* lead = nullptr)
     {
         List<char> list;
-        emit_changed(row, changed_only, &before, &after, {"root", key, list, lead});
+        emit_changed(row, changed_only, &before, &after, {View::root, key, list, lead});
         return take_elements(list);
     }
 
@@ -237,19 +237,6 @@ TEST_F(Rows, ValuesWithoutAConversionAreLeftOut)
     EXPECT_EQ(changed(number(FIELD(Everything, byte), "%s cos"), &lead), command_of("uplink cos"));
 }
 
-TEST_F(Rows, AnUnknownViewIsSaidAndTheCommandsFollowWithoutNavigation)
-{
-    after.byte = 7;
-    List<char> list;
-    testing::internal::CaptureStdout();
-    emit_changed(number(FIELD(Everything, byte), "cos %s"), changed_only, &before, &after, {"nowhere", key, list});
-    EXPECT_TRUE(emit({"nowhere", key, list}, "plain %d", 5));
-    EXPECT_EQ(testing::internal::GetCapturedStdout(), "\n\n\n\nVIEW nowhere NOT FOUND!!!!!!!!!!!!!!\n\n\n"
-                                                      "\n\n\n\nVIEW nowhere NOT FOUND!!!!!!!!!!!!!!\n\n\n");
-    EXPECT_EQ(take_elements(list), (Elements{"", "cos 7", "", "plain 5"}));
-    EXPECT_STREQ(current_view.name, "root");
-}
-
 // ------------------------------------------------------------------------------------------------- how they are forced
 
 TEST_F(Rows, RulesThatForce)
@@ -345,7 +332,8 @@ TEST_F(Rows, ALongLineWithoutMemoryIsLeftOut)
     List<char> list;
     {
         const FailingAllocation failure(3, Failing::once); // the navigation has a text and a node
-        emit_changed(text(FIELD(Everything, book), "$ID1 <%s>"), changed_only, &before, &after, {"root", key, list});
+        emit_changed(text(FIELD(Everything, book), "$ID1 <%s>"), changed_only, &before, &after,
+                     {View::root, key, list});
         EXPECT_TRUE(failure.happened());
     }
     EXPECT_EQ(take_elements(list), Elements{""});
@@ -357,7 +345,7 @@ TEST_F(Rows, ALongLineOfAnOperationIsWhole)
     const std::string line(20000, 'l');
     const std::string longer(100000, 'm');
     Operation operation;
-    const Where where{"root", operation.key, operation.script};
+    const Where where{View::root, operation.key, operation.script};
     EXPECT_TRUE(emit(where, "first"));
     EXPECT_TRUE(emit(where, "%s", line.c_str()));
     EXPECT_TRUE(emit(where, "<%s>", longer.c_str()));
@@ -371,7 +359,7 @@ TEST_F(Rows, ALongLineOfAnOperationWithoutMemoryLosesTheText)
     current_view = {"configure-view", {}};
     for (const Failing how : {Failing::once, Failing::from_then_on}) {
         Operation operation;
-        const Where where{"root", operation.key, operation.script};
+        const Where where{View::root, operation.key, operation.script};
         EXPECT_TRUE(emit(where, "first"));
         {
             const FailingAllocation failure(1, how);
@@ -389,7 +377,7 @@ TEST_F(Rows, ALongRowOfAnOperationWithoutMemoryLosesTheText)
 {
     fill_book(after);
     Operation operation;
-    const Where where{"root", operation.key, operation.script};
+    const Where where{View::root, operation.key, operation.script};
     for (int i = 0; i < 14; ++i)
         EXPECT_TRUE(emit(where, "%s", std::string(1000, 'l').c_str())); // less room is left than the row needs
     const FailingAllocation failure(1, Failing::once);

@@ -1,3 +1,4 @@
+#include "pon/DataToCommandsConvertor/views.h"
 #include "tests/support/diff.h"
 
 #include <algorithm>
@@ -138,6 +139,8 @@ class Views : public testing::Test {
 } // namespace
 
 // ------------------------------------------------------------------------------------------------- every two views
+
+static_assert(std::size(ENTERED) == pondiff::view_count - 2, "all views but the top level and the configuration mode");
 
 TEST_F(Views, FromTheTopLevelAndBack)
 {
@@ -484,13 +487,13 @@ TEST_F(Views, ALongNameThatBeginsWithAViewsIsTakenWhole)
     EXPECT_EQ(go("vlan-view" + std::string(3000, '!'), 1).text, "exit\n");
 }
 
-TEST_F(Views, AStandingPlaceThatNoRowKnowsIsLeftByALineFeed)
+TEST_F(Views, AnUnknownStandingPlaceIsLeftByALineFeed)
 {
     stand_in("elsewhere", 8);
     EXPECT_EQ(text("if-ont-view", 5), "\nconfigure terminal\ninterface ont 0/5");
     expect_position("if-ont-view", 5);
     stand_in("elsewhere", 8);
-    EXPECT_EQ(text("root", 5), "\n") << "no row leads to the top level";
+    EXPECT_EQ(text("root", 5), "\n") << "no way leads to the top level";
     expect_position("elsewhere", 8);
     stand_in("if-ont-view-x", 8);
     expect_nothing_written(go("if-ont-view", 8));

@@ -2,6 +2,7 @@
 
 #include "platform/platform.h"
 #include "pon/DataToCommandsConvertor.h"
+#include "pon/DataToCommandsConvertor/views.h"
 
 #include <cstdint>
 #include <cstdlib>
@@ -192,7 +193,7 @@ const char* old_name_or_unassigned(char* const (&names)[Slots], int index)
 int data_prepare(GCfg_t* orig, GCfg_t* cfg)
 {
     data_free();
-    current_view.name = "root";
+    current_view.name = pondiff::data_of(pondiff::View::root).name;
     if (!orig || !cfg)
         return -1;
     sn_format = cfg->system.settings.ont_sn_format;

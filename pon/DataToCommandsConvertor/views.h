@@ -5,55 +5,68 @@
 #include "pon/DataToCommandsConvertor/text.h"
 
 #include <cstddef>
+#include <cstdint>
 
 namespace pondiff {
 
-/// One entry of the view registry.
-struct view_data {
-    const char* name;
-    const char* command; ///< enters the view; "$ID0" stands where the object's identifier goes
-    int id_count;        ///< how many key slots identify an object of this view
+/// The views of the CLI: the top level, the configuration mode, and below it the views that each edit one object.
+enum class View : std::uint8_t {
+    root,
+    configure,
+    gpon_port,
+    ont,
+    container,
+    address_table,
+    cross_connect,
+    alloc,
+    dhcp_ra,
+    dhcpv6_ra,
+    management,
+    ports,
+    voice,
+    pppoe_ia,
+    shaping,
+    vlan,
+    template_ont,
+};
+constexpr std::size_t view_count = static_cast<std::size_t>(View::template_ont) + 1;
+
+struct ViewData {
+    const char* name;  ///< what `current_view` and `goto_view_buf` call it
+    const char* enter; ///< the command that enters it from the configuration mode; the object's identifier follows
+    char* const* names = nullptr; ///< of the objects, where the CLI knows them by name
+    char* const* old_names = nullptr;
+    int slots = 0;
 };
 
-/// One row of the view-to-view table. Its two texts are put together from the registry's commands: first `lead`, then
-/// the command that enters a view (none when the way leads to the top level).
-struct view2view {
-    struct Way {
-        const char* lead;
-        const char* enter;
-    };
-    const char* from;
-    const char* to;
-    Way commandto;   ///< moves from `from` to `to`
-    Way commandfrom; ///< moves back
-};
+/// In the order of `View`.
+extern const ViewData views[view_count];
 
-std::size_t view_count();
-const view_data& view(std::size_t index);
+inline const ViewData& data_of(View view)
+{
+    return views[static_cast<std::size_t>(view)];
+}
 
-std::size_t view2view_count();
-view2view view2view_row(std::size_t index);
-
-/// The registry's entry of a view; null when there is none.
-const view_data* registered_view(const char* name);
+/// The top level and the configuration mode are one place each, whatever the key.
+constexpr bool edits_object(View view)
+{
+    return view > View::configure;
+}
 
 /// True when `key` names the object that the script stands at, were its view `view`.
-inline bool same_object(const view_data& view, const int* key)
+inline bool same_object(View view, const int* key)
 {
-    for (int i = 0; i < view.id_count; ++i)
-        if (current_view.key[i] != key[i])
-            return false;
-    return true;
+    return !edits_object(view) || current_view.key[0] == key[0];
 }
 
-/// True when the script already stands in a view of the registry at the object `key`.
-inline bool stands_in(const view_data& view, const int* key)
+/// True when the script already stands in `view` at the object `key`.
+inline bool stands_at(View view, const int* key)
 {
-    return current_view.name == view.name && same_object(view, key);
+    return current_view.name == data_of(view).name && same_object(view, key);
 }
 
-/// `goto_view_buf` into a text of any length.
-int goto_view(const char* view, const int* key, Text& out);
+/// Writes the commands that lead from `current_view` to `view` and the object `key`, and moves `current_view` there.
+void goto_view(View view, const int* key, Text& out);
 
 } // namespace pondiff
 

@@ -35,7 +35,7 @@ char* pondiff::full_diff(GCfg* orig, GCfg* cfg, CommonSet set)
             getdiff_GCfg(orig, cfg, operation.key, operation.script);
         }
     }
-    operation.go_to("root");
+    operation.go_to(View::root);
     return operation.finish(Ending::commit);
 }
 

@@ -4,7 +4,7 @@
 
 namespace pondiff {
 
-void Operation::go_to(const char* view)
+void Operation::go_to(View view)
 {
     navigate({view, key, script});
 }

@@ -2,6 +2,7 @@
 #define PON_COMMAND_FILE_GENERATOR_OPERATION_H
 
 #include "pon/DataToCommandsConvertor.h"
+#include "pon/DataToCommandsConvertor/views.h"
 #include "pon/diff_builder.h"
 #include "pon/diff_builder/script.h"
 
@@ -13,7 +14,7 @@ enum class Ending { plain, commit };
 /// One exported operation from its empty list and zeroed key to the text that it returns.
 class Operation {
   public:
-    void go_to(const char* view);
+    void go_to(View view);
     /// The text on the heap, for the caller. Null when it could not be had whole: the script was not issued, so the
     /// current view goes back to where it was.
     char* finish(Ending ending);

@@ -14,9 +14,9 @@ template <class Body>
 char* from_configure_view(Ending ending, Body body)
 {
     Operation operation;
-    operation.go_to("configure-view");
+    operation.go_to(View::configure);
     body(operation.key, operation.script);
-    operation.go_to("root");
+    operation.go_to(View::root);
     return operation.finish(ending);
 }
 
@@ -147,7 +147,7 @@ char* GetGPonProfilesOltDiff(GPonProfilesOlt_t* orig, GPonProfilesOlt_t* cfg)
 {
     Operation operation;
     getdiff_GPonProfilesOlt(orig, cfg, operation.key, operation.script);
-    operation.go_to("root");
+    operation.go_to(View::root);
     return operation.finish(Ending::commit);
 }
 
@@ -155,7 +155,7 @@ char* GetGPonProfilesOntDiff(GPonProfilesOnt_t* orig, GPonProfilesOnt_t* cfg)
 {
     Operation operation;
     getdiff_GPonProfilesOnt(orig, cfg, operation.key, operation.script);
-    operation.go_to("root");
+    operation.go_to(View::root);
     return operation.finish(Ending::commit);
 }
 
@@ -189,7 +189,7 @@ char* GetAlarmDiff(GCfg_t* orig, GCfg_t* cfg)
 char* GetTerminalVlanHeaders()
 {
     Operation operation;
-    operation.go_to("configure-view");
+    operation.go_to(View::configure);
     for (int i = 0; i < GCFG_TERMINAL_VLANS; ++i) {
         const char* const name = getTerminalVlanName(i);
         if (name && *name != '\0')

@@ -32,6 +32,6 @@ char* GetRoutesDiffMemSafe(GSystemRoutingCfg_t* orig, GSystemRoutingCfg_t* cfg, 
     const PublishedStream stream(file);
     pondiff::Operation operation;
     getdiff_GSystemRoutingCfg(orig, cfg, operation.key, operation.script);
-    operation.go_to("root");
+    operation.go_to(pondiff::View::root);
     return operation.finish(pondiff::Ending::commit);
 }

@@ -86,7 +86,7 @@ void format_command(Text& line, const Where& where, const char* form, const Valu
 
 bool navigate(const Where& where)
 {
-    if (where.entry && stands_in(*where.entry, where.key))
+    if (stands_at(where.view, where.key))
         return Script::of(where.out) || push(where.out, "", 0); // a script has no use for empty elements
     const view_state before = current_view;
     Text text;

@@ -48,16 +48,10 @@ bool nothing_to_say(const T* lhs, const T* rhs)
 /// Where commands go: the CLI view they are valid in, the object's key, the list, and a value that fills the first
 /// conversion of every template (a direction, a service's prefix, a port's number), if there is one.
 struct Where {
-    Where(const char* view_name, int* object_key, List<char>& list, const Value* leading_value = nullptr)
-        : view(view_name), key(object_key), out(list), lead(leading_value), entry(registered_view(view_name))
-    {
-    }
-
-    const char* view;
+    View view;
     int* key;
     List<char>& out;
-    const Value* lead;
-    const view_data* entry; ///< of the view in the registry; null when there is no such view
+    const Value* lead = nullptr;
 };
 
 /// Appends the navigation to the view and object; an empty element when the script stands there. Like the others, it

@@ -19,8 +19,8 @@ bool getdiff_GVlanTagEx(GVlanTagEx* lhs, GVlanTagEx* rhs, int* key, List<char>& 
     }
     // A change of the VLAN id or the priority names the VLAN by itself; a rename leaves the old name behind.
     if (lhs->tag.vid == rhs->tag.vid && lhs->tag.prio == rhs->tag.prio)
-        emit_changed(name, changed_only, lhs, rhs, {"configure-view", key, out});
+        emit_changed(name, changed_only, lhs, rhs, {View::configure, key, out});
     const Value new_name = text(rhs->name);
-    emit_changed(tag, changed_or_common, lhs, rhs, {"configure-view", key, out, &new_name});
+    emit_changed(tag, changed_or_common, lhs, rhs, {View::configure, key, out, &new_name});
     return false;
 }

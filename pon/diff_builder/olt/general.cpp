@@ -52,7 +52,7 @@ bool getdiff_GPonOltGeneralCfg(GPonOltGeneralCfg* lhs, GPonOltGeneralCfg* rhs, i
     };
     if (nothing_to_say(lhs, rhs))
         return false;
-    const Where where{"configure-view", key, out};
+    const Where where{View::configure, key, out};
     emit_changed(limits, changed_or_common, lhs, rhs, where);
     emit_changed(relay_profiles, changed_or_profile_common, lhs, rhs, where);
     emit_changed(thresholds, changed_or_common, lhs, rhs, where);
@@ -94,7 +94,7 @@ bool getdiff_GPonOltGeneralActivationCfg(GPonOltGeneralActivationCfg* lhs, GPonO
     };
     if (nothing_to_say(lhs, rhs))
         return false;
-    emit_changed(commands, changed_or_common, lhs, rhs, {"configure-view", key, out});
+    emit_changed(commands, changed_or_common, lhs, rhs, {View::configure, key, out});
     return false;
 }
 
@@ -132,7 +132,7 @@ bool getdiff_GPonOltDhcpraCfgByVid(GPonOltDhcpraCfgByVid* lhs, GPonOltDhcpraCfgB
     if (nothing_to_say(lhs, rhs))
         return false;
     emit_redefinition(*lhs, *rhs, getDhcpRaName(rhs->profile), "gpon olt profile dhcpra %s vid %d",
-                      {"configure-view", key, out});
+                      {View::configure, key, out});
     return false;
 }
 
@@ -142,7 +142,7 @@ bool getdiff_GPonOltDhcpv6raCfgByVid(GPonOltDhcpv6raCfgByVid* lhs, GPonOltDhcpv6
     if (nothing_to_say(lhs, rhs))
         return false;
     emit_redefinition(*lhs, *rhs, getDhcpv6RaName(rhs->profile), "gpon olt profile dhcpv6ra %s vid %d",
-                      {"configure-view", key, out});
+                      {View::configure, key, out});
     return false;
 }
 
@@ -152,7 +152,7 @@ bool getdiff_GPonOltGeneralDBAShortCycleCfg(GPonOltGeneralDBAShortCycle* lhs, GP
 {
     if (nothing_to_say(lhs, rhs))
         return false;
-    const Where where{"configure-view", key, out};
+    const Where where{View::configure, key, out};
     for (int port = 0; port < GCFG_GPON_PORTS; port += 2) {
         const bool there = navigate(where);
         if (!there || (!forced(changed_or_common) && lhs->gpon_port[port] == rhs->gpon_port[port]))
@@ -174,7 +174,7 @@ bool getdiff_GPonOltGeneralDatapathCfg(GPonOltGeneralDatapathCfg* lhs, GPonOltGe
     };
     if (nothing_to_say(lhs, rhs))
         return false;
-    const Where where{"configure-view", key, out};
+    const Where where{View::configure, key, out};
     if (forced(changed_or_common) || lhs->model != rhs->model)
         emit(where, "gpon olt model \"%d\"", rhs->model + 1);
     emit_changed(gem_ports, changed_or_common, lhs, rhs, where);
@@ -189,6 +189,6 @@ bool getdiff_GPonOntEncryption(GPonOntEncryption* lhs, GPonOntEncryption* rhs, i
     };
     if (nothing_to_say(lhs, rhs))
         return false;
-    emit_changed(commands, changed_or_common, lhs, rhs, {"configure-view", key, out});
+    emit_changed(commands, changed_or_common, lhs, rhs, {View::configure, key, out});
     return false;
 }

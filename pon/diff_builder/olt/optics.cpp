@@ -61,6 +61,6 @@ bool getdiff_GPonOltGeneralOpticsCfg(GPonOltGeneralOpticsCfg* lhs, GPonOltGenera
     };
     if (nothing_to_say(lhs, rhs))
         return false;
-    emit_changed(commands, changed_or_all, lhs, rhs, {"if-gpon-view", key, out});
+    emit_changed(commands, changed_or_all, lhs, rhs, {View::gpon_port, key, out});
     return false;
 }

@@ -36,7 +36,7 @@ bool getdiff_GPonOltChannelCfg(GPonOltChannelCfg* lhs, GPonOltChannelCfg* rhs, i
 
     if (nothing_to_say(lhs, rhs))
         return false;
-    const Where where{"if-gpon-view", key, out};
+    const Where where{View::gpon_port, key, out};
     emit_changed(settings, changed_or_all, lhs, rhs, where);
     emit_changed(rhs->onus_range != 0 ? range : no_range, changed_or_all, lhs, rhs, where);
     emit_changed(forward, changed_or_all, lhs, rhs, where);

@@ -4,8 +4,6 @@ using namespace pondiff;
 
 namespace {
 
-constexpr char ont_view[] = "if-ont-view";
-
 /// The profiles of one service after another.
 void emit_service_profiles(const GPonOntCfg* lhs, const GPonOntCfg* rhs, int* key, List<char>& out)
 {
@@ -18,7 +16,7 @@ void emit_service_profiles(const GPonOntCfg* lhs, const GPonOntCfg* rhs, int* ke
         const Value shown = service;
         for (const Row<GPonOntCfg>& profile : profiles)
             emit_changed(element(profile, static_cast<std::size_t>(service)), changed_or_all, lhs, rhs,
-                         {ont_view, key, out, &shown});
+                         {View::ont, key, out, &shown});
     }
 }
 
@@ -56,7 +54,7 @@ void emit_settings(GPonOntCfg* lhs, GPonOntCfg* rhs, int* key, List<char>& out)
         on_off(FIELD(GPonOntCfg, omci_error_tolerant), "omci-error-tolerant", "no omci-error-tolerant"),
         enumeration(FIELD(GPonOntCfg, custom_model), "GOntCustomConfigModel_enum", "custom-model \"%s\""),
     };
-    const Where where{ont_view, key, out};
+    const Where where{View::ont, key, out};
     emit_changed(terminal, changed_or_all, lhs, rhs, where);
     emit_service_profiles(lhs, rhs, key, out);
     emit_changed(profiles_and_modes, changed_or_all, lhs, rhs, where);
@@ -88,11 +86,11 @@ bool getdiff_GPonOntCfg(GPonOntCfg* lhs, GPonOntCfg* rhs, int* key, List<char>& 
         return false;
     if (lhs->exist != rhs->exist) {
         if (rhs->exist == 0) {
-            if (navigate({"configure-view", key, out}))
+            if (navigate({View::configure, key, out}))
                 append(out, "no interface ont %d/%d", key[0] / GCFG_ONTS_PER_PORT, key[0] % GCFG_ONTS_PER_PORT);
             return false;
         }
-        navigate({ont_view, key, out}); // creates it
+        navigate({View::ont, key, out}); // creates it
     }
     if (rhs->exist != 0)
         emit_settings(lhs, rhs, key, out);
@@ -110,7 +108,7 @@ unsigned char getdiff_GPonOntCustomCrossConnect(GPonOntCustomCrossConnect* lhs, 
     };
     if (nothing_to_say(lhs, rhs) || rhs->exist == 0)
         return 0;
-    emit_changed(commands, changed_or_all, lhs, rhs, {ont_view, key, out});
+    emit_changed(commands, changed_or_all, lhs, rhs, {View::ont, key, out});
     return 0;
 }
 
@@ -120,7 +118,7 @@ bool getdiff_GPonOntPort(GPonOntPort* lhs, GPonOntPort* rhs, int* key, List<char
         on_off(FIELD(GPonOntPort, shutdown), "port $ID1 shutdown", "no port $ID1 shutdown");
     if (nothing_to_say(lhs, rhs))
         return false;
-    emit_changed(shutdown, changed_or_all, lhs, rhs, {ont_view, key, out});
+    emit_changed(shutdown, changed_or_all, lhs, rhs, {View::ont, key, out});
     descend(changed_or_all, getdiff_GPonUniPoE, lhs->poe, rhs->poe, key, out);
     return false;
 }
@@ -134,6 +132,6 @@ bool getdiff_GPonUniPoE(GPonUniPoE* lhs, GPonUniPoE* rhs, int* key, List<char>& 
     };
     if (nothing_to_say(lhs, rhs))
         return false;
-    emit_changed(commands, changed_or_all, lhs, rhs, {ont_view, key, out});
+    emit_changed(commands, changed_or_all, lhs, rhs, {View::ont, key, out});
     return false;
 }

@@ -54,6 +54,6 @@ bool getdiff_GPonOntSelectiveTunnel(GPonOntSelectiveTunnel* lhs, GPonOntSelectiv
     sort_vids(*rhs);
     Text list;
     append_ranges(*rhs, list);
-    emit({"if-ont-view", key, out}, "service $ID1 selective-tunnel uvid %s", Value::text(list.data(), list.size()));
+    emit({View::ont, key, out}, "service $ID1 selective-tunnel uvid %s", Value::text(list.data(), list.size()));
     return false;
 }

@@ -85,7 +85,7 @@ bool getdiff_GPonOntVoice(GPonOntVoiceCfg* lhs, GPonOntVoiceCfg* rhs, int* key, 
     };
     if (nothing_to_say(lhs, rhs))
         return false;
-    const Where where{"if-ont-view", key, out};
+    const Where where{View::ont, key, out};
     emit_changed(host, changed_or_all, &lhs->voice_iphost, &rhs->voice_iphost, where);
     for (int port = 0; port < GCFG_VOICE_PORTS; ++port)
         diff_port(lhs->voice_port[port], rhs->voice_port[port], port, where);

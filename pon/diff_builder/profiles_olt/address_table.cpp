@@ -12,7 +12,7 @@ bool getdiff_GAddressTableConfig(GAddressTableConfig* lhs, GAddressTableConfig* 
     };
     if (nothing_to_say(lhs, rhs))
         return false;
-    emit_changed(commands, changed_or_all, lhs, rhs, {"address-table-view", key, out});
+    emit_changed(commands, changed_or_all, lhs, rhs, {View::address_table, key, out});
     return false;
 }
 
@@ -32,7 +32,7 @@ bool getdiff_GSvlanAddressTableConfig(GSvlanAddressTableConfig* lhs, GSvlanAddre
     if (nothing_to_say(lhs, rhs) || (lhs->svlan == 0 && rhs->svlan == 0))
         return false;
     const Value svlan = rhs->svlan;
-    const Where where{"address-table-view", key, out, &svlan};
+    const Where where{View::address_table, key, out, &svlan};
     // The command of any setting names the S-VLAN too; by itself it is named only where no setting has changed.
     GSvlanAddressTableConfig old_settings = *lhs;
     old_settings.exist = rhs->exist;
@@ -51,11 +51,11 @@ bool getdiff_GPonProfileOltAddressTable(GPonProfileOltAddressTable* lhs, GPonPro
     if (no_profile(lhs, rhs))
         return false;
     if (rhs->exist == 0) {
-        if (navigate({"configure-view", key, out}))
+        if (navigate({View::configure, key, out}))
             append(out, "no profile address-table %s", text(lhs->name));
         return false;
     }
-    const Where where{"address-table-view", key, out};
+    const Where where{View::address_table, key, out};
     enter_new_profile(lhs, rhs, where);
     emit_profile_name(changed_or_all, lhs, rhs, where);
     emit_profile_description(lhs, rhs, where);

@@ -19,7 +19,7 @@ bool getdiff_GPonProfileOltDhcpRa(GPonProfileOltDhcpRa* lhs, GPonProfileOltDhcpR
     };
     if (no_profile(lhs, rhs))
         return false;
-    const Where where{"dhcp-ra-view", key, out};
+    const Where where{View::dhcp_ra, key, out};
     emit_profile_head(lhs, rhs, where);
     emit_changed(agent, changed_or_all, lhs, rhs, where);
     emit_id_format(where, "overwrite-option82 circuit-id \"%s\"%s", lhs->circuit_id_format, rhs->circuit_id_format,

@@ -31,7 +31,7 @@ bool getdiff_GPonProfileOltDhcpv6Ra(GPonProfileOltDhcpv6Ra* lhs, GPonProfileOltD
     };
     if (no_profile(lhs, rhs))
         return false;
-    const Where where{"dhcpv6-ra-view", key, out};
+    const Where where{View::dhcpv6_ra, key, out};
     emit_profile_head(lhs, rhs, where);
     emit_changed(agent, changed_or_all, lhs, rhs, where);
     emit_id_format(where, "add-interface-id \"%s\"%s", lhs->interface_id_format, rhs->interface_id_format,

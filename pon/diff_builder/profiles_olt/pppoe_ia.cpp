@@ -42,7 +42,7 @@ bool getdiff_GPonProfileOltPppoeIa(GPonProfileOltPppoeIa* lhs, GPonProfileOltPpp
     };
     if (no_profile(lhs, rhs))
         return false;
-    const Where where{"pppoe-ia-view", key, out};
+    const Where where{View::pppoe_ia, key, out};
     emit_profile_head(lhs, rhs, where);
     emit_changed(agent, changed_or_all, lhs, rhs, where);
     emit_session_limits(lhs, rhs, where);

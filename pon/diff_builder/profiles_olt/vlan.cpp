@@ -13,7 +13,7 @@ bool getdiff_GVlanGeneralCfg(GVlanGeneralCfg* lhs, GVlanGeneralCfg* rhs, int* ke
     if (nothing_to_say(lhs, rhs))
         return false;
     const Value direction = key[1] != 0 ? "downlink" : "uplink";
-    emit_changed(commands, changed_or_all, lhs, rhs, {"vlan-view", key, out, &direction});
+    emit_changed(commands, changed_or_all, lhs, rhs, {View::vlan, key, out, &direction});
     return false;
 }
 
@@ -23,11 +23,11 @@ bool getdiff_GPonProfileOltVlan(GPonProfileOltVlan* lhs, GPonProfileOltVlan* rhs
     if (no_profile(lhs, rhs))
         return false;
     if (rhs->exist == 0) {
-        if (navigate({"configure-view", key, out}))
+        if (navigate({View::configure, key, out}))
             append(out, "no profile vlan %s", text(lhs->name));
         return false;
     }
-    const Where where{"vlan-view", key, out};
+    const Where where{View::vlan, key, out};
     enter_new_profile(lhs, rhs, where);
     emit_profile_name(changed_only, lhs, rhs, where);
     emit_profile_description(lhs, rhs, where);

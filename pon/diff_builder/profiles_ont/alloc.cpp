@@ -9,7 +9,7 @@ bool getdiff_GPonProfileOntAlloc(GPonProfileOntAlloc* lhs, GPonProfileOntAlloc* 
                "no allocation-scheme");
     if (no_profile(lhs, rhs))
         return false;
-    const Where where{"dba-view", key, out};
+    const Where where{View::alloc, key, out};
     emit_profile_head(lhs, rhs, where);
     emit_changed(allocation_scheme, changed_or_all, lhs, rhs, where);
     descend(changed_or_all, getdiff_GPonOntDba, lhs->dba, rhs->dba, key, out);
@@ -37,6 +37,6 @@ bool getdiff_GZorvanSLA(char* /*name*/, GZorvanSLA* lhs, GZorvanSLA* rhs, int* k
     };
     if (nothing_to_say(lhs, rhs))
         return false;
-    emit_changed(commands, changed_or_all, lhs, rhs, {"dba-view", key, out});
+    emit_changed(commands, changed_or_all, lhs, rhs, {View::alloc, key, out});
     return false;
 }

@@ -66,7 +66,7 @@ bool getdiff_GPonProfileOntCrossConnect(GPonProfileOntCrossConnect* lhs, GPonPro
 {
     if (no_profile(lhs, rhs))
         return false;
-    const Where where{"cross-connect-view", key, out};
+    const Where where{View::cross_connect, key, out};
     const auto emit_new = [&](const auto& rows) { emit_changed(rows, changed_or_all, lhs, rhs, where); };
 
     emit_profile_head(lhs, rhs, where);

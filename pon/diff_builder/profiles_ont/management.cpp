@@ -14,7 +14,7 @@ bool getdiff_GPonProfileOntManagement(GPonProfileOntManagement* lhs, GPonProfile
     };
     if (no_profile(lhs, rhs))
         return false;
-    const Where where{"management-view", key, out};
+    const Where where{View::management, key, out};
     emit_profile_head(lhs, rhs, where);
     emit_changed(commands, changed_or_all, lhs, rhs, where);
     emit_ont_config(lhs, rhs, where);

@@ -39,7 +39,7 @@ void emit_settings(const Settings* lhs, const Settings* rhs, int* key, List<char
         number(FIELD(Settings, last_member_query_interval), "%s query last-member \"%s\""),
     };
     const Value protocol = Own::word;
-    emit_changed(commands, changed_or_all, lhs, rhs, {"ports-view", key, out, &protocol});
+    emit_changed(commands, changed_or_all, lhs, rhs, {View::ports, key, out, &protocol});
 }
 
 Value group(const std::uint8_t (&address)[4])
@@ -99,7 +99,7 @@ bool getdiff_GPonMulticastDynamicEntry(GPonMulticastDynamicEntry* lhs, GPonMulti
     if (nothing_to_say(lhs, rhs))
         return false;
     const Value protocol = Protocol<GPonIgmpSettings>::word;
-    emit_range(lhs, rhs, {"ports-view", key, out, &protocol});
+    emit_range(lhs, rhs, {View::ports, key, out, &protocol});
     return false;
 }
 
@@ -119,7 +119,7 @@ bool getdiff_GPonMulticastDynamicEntryV6(GPonMulticastDynamicEntryV6* lhs, GPonM
     if (nothing_to_say(lhs, rhs))
         return false;
     const Value protocol = Protocol<GPonMldSettings>::word;
-    const Where where{"ports-view", key, out, &protocol};
+    const Where where{View::ports, key, out, &protocol};
     emit_range(lhs, rhs, where);
     emit_changed(preview, changed_or_all, lhs, rhs, where);
     return false;

@@ -4,8 +4,6 @@ using namespace pondiff;
 
 namespace {
 
-constexpr char ports_view[] = "ports-view";
-
 bool emit_uni_shaping(const char* direction, const GPonUniShaping* lhs, const GPonUniShaping* rhs, int* key,
                       List<char>& out)
 {
@@ -17,7 +15,7 @@ bool emit_uni_shaping(const char* direction, const GPonUniShaping* lhs, const GP
     if (nothing_to_say(lhs, rhs))
         return false;
     const Value lead = direction;
-    emit_changed(commands, changed_or_all, lhs, rhs, {ports_view, key, out, &lead});
+    emit_changed(commands, changed_or_all, lhs, rhs, {View::ports, key, out, &lead});
     return false;
 }
 
@@ -29,7 +27,7 @@ bool getdiff_GPonProfileOntPorts(GPonProfileOntPorts* lhs, GPonProfileOntPorts* 
         FIELD(GPonProfileOntPorts, multicast_ip_version), "GOntMulticastIpVersion_enum", "multicast ip version %s");
     if (no_profile(lhs, rhs))
         return false;
-    const Where where{ports_view, key, out};
+    const Where where{View::ports, key, out};
     emit_profile_head(lhs, rhs, where);
     emit_changed(ip_version, changed_or_all, lhs, rhs, where);
     descend(changed_or_all, getdiff_GPonIgmpSettings, lhs->igmp_settings, rhs->igmp_settings, key, out);
@@ -53,7 +51,7 @@ bool getdiff_GPonUniPort(GPonUniPort* lhs, GPonUniPort* rhs, int* key, List<char
     };
     if (nothing_to_say(lhs, rhs))
         return false;
-    emit_changed(commands, changed_or_all, lhs, rhs, {ports_view, key, out});
+    emit_changed(commands, changed_or_all, lhs, rhs, {View::ports, key, out});
     getdiff_GPonMulticastClientPortSettings("port[$ID1]", &lhs->multicast_port_settings, &rhs->multicast_port_settings,
                                             key, out);
     descend(changed_or_all, getdiff_GPonUniShapingDownstream, lhs->shaper_downstream, rhs->shaper_downstream, key, out);
@@ -67,7 +65,7 @@ bool getdiff_GPonVeipPort(GPonVeipPort* lhs, GPonVeipPort* rhs, int* key, List<c
         on_off(FIELD(GPonVeipPort, multicast_enable), "veip multicast", "no veip multicast");
     if (nothing_to_say(lhs, rhs))
         return false;
-    emit_changed(multicast, changed_or_all, lhs, rhs, {ports_view, key, out});
+    emit_changed(multicast, changed_or_all, lhs, rhs, {View::ports, key, out});
     getdiff_GPonMulticastClientPortSettings("veip", &lhs->multicast_port_settings, &rhs->multicast_port_settings, key,
                                             out);
     return false;
@@ -102,6 +100,6 @@ bool getdiff_GPonMulticastClientPortSettings(const char* prefix, GPonMulticastCl
         return false;
     const bool is_uni = prefix && std::strcmp(prefix, "port[$ID1]") == 0;
     const Value lead = is_uni ? "port $ID1 igmp" : prefix;
-    emit_changed(commands, changed_or_all, lhs, rhs, {ports_view, key, out, &lead});
+    emit_changed(commands, changed_or_all, lhs, rhs, {View::ports, key, out, &lead});
     return false;
 }

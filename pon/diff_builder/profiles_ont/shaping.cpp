@@ -4,8 +4,6 @@ using namespace pondiff;
 
 namespace {
 
-constexpr char shaping_view[] = "shaping-view";
-
 void walk_shapers(const char* traffic_class, GPonOntShapingUpstreamParams (&lhs)[GCFG_SHAPERS],
                   GPonOntShapingUpstreamParams (&rhs)[GCFG_SHAPERS], int* key, List<char>& out)
 {
@@ -46,7 +44,7 @@ bool getdiff_GPonProfileOntShaping(GPonProfileOntShaping* lhs, GPonProfileOntSha
 {
     if (no_profile(lhs, rhs))
         return false;
-    emit_profile_head(lhs, rhs, {shaping_view, key, out});
+    emit_profile_head(lhs, rhs, {View::shaping, key, out});
     descend(changed_or_all, getdiff_GPonOntShapingDownstream, lhs->downstream, rhs->downstream, key, out);
     descend(changed_or_all, getdiff_GPonOntShapingUpstream, lhs->upstream, rhs->upstream, key, out);
     return false;
@@ -59,7 +57,7 @@ bool getdiff_GPonOntShapingDownstream(GPonOntShapingDownstream* lhs, GPonOntShap
         on_off(FIELD(GPonOntShapingDownstream, one_policer), "downstream one-policer", "no downstream one-policer");
     if (nothing_to_say(lhs, rhs))
         return false;
-    emit_changed(one_policer, changed_or_all, lhs, rhs, {shaping_view, key, out});
+    emit_changed(one_policer, changed_or_all, lhs, rhs, {View::shaping, key, out});
     walk(changed_or_all, getdiff_GPonOntShapingDownstreamParams, lhs->policer, rhs->policer, 1, key, out);
     return false;
 }
@@ -74,7 +72,7 @@ bool getdiff_GPonOntShapingDownstreamParams(GPonOntShapingDownstreamParams* lhs,
     };
     if (nothing_to_say(lhs, rhs))
         return false;
-    emit_changed(commands, changed_or_all, lhs, rhs, {shaping_view, key, out});
+    emit_changed(commands, changed_or_all, lhs, rhs, {View::shaping, key, out});
     return false;
 }
 
@@ -102,7 +100,7 @@ bool getdiff_GPonOntShapingUpstreamParams(const char* traffic_class, GPonOntShap
     if (nothing_to_say(lhs, rhs))
         return false;
     const Value lead = traffic_class;
-    emit_changed(commands, changed_only, lhs, rhs, {shaping_view, key, out, &lead});
+    emit_changed(commands, changed_only, lhs, rhs, {View::shaping, key, out, &lead});
     return false;
 }
 
@@ -112,7 +110,7 @@ unsigned char getdiff_GPonOntStormControl(GPonOntStormControl* lhs, GPonOntStorm
     constexpr unsigned char of_multicast = 10;
     if (nothing_to_say(lhs, rhs))
         return storm_done;
-    const Where where{shaping_view, key, out};
+    const Where where{View::shaping, key, out};
 
     const StormStatus broadcast =
         emit_storm("broadcast", {lhs->broadcast_threshold, lhs->broadcast_logging, lhs->broadcast_shutdown},

@@ -63,7 +63,7 @@ bool getdiff_GPonTemplateOnt(GPonTemplateOnt* lhs, GPonTemplateOnt* rhs, int* ke
 {
     if (no_profile(lhs, rhs))
         return false;
-    const Where where{"template-view", key, out};
+    const Where where{View::template_ont, key, out};
     emit_profile_head(lhs, rhs, where);
     emit_changed(identity, changed_or_all, lhs, rhs, where);
     emit_changed(rhs->ber_update_period == 0 ? no_ber_update_period : ber_update_period, changed_or_all, lhs, rhs,

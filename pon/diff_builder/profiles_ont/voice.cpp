@@ -6,7 +6,7 @@ bool getdiff_GPonProfileOntVoice(GPonProfileOntVoice* lhs, GPonProfileOntVoice* 
 {
     if (no_profile(lhs, rhs))
         return false;
-    const Where where{"voice-view", key, out};
+    const Where where{View::voice, key, out};
     emit_profile_head(lhs, rhs, where);
     descend(changed_or_all, getdiff_GPonProfileOntVoiceSip, lhs->sip, rhs->sip, key, out);
     emit_ont_config(lhs, rhs, where);
@@ -25,6 +25,6 @@ bool getdiff_GPonProfileOntVoiceSip(GPonProfileOntVoiceSip* lhs, GPonProfileOntV
     };
     if (nothing_to_say(lhs, rhs))
         return false;
-    emit_changed(commands, changed_or_all, lhs, rhs, {"voice-view", key, out});
+    emit_changed(commands, changed_or_all, lhs, rhs, {View::voice, key, out});
     return false;
 }

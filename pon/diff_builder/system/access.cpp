@@ -13,7 +13,7 @@ void diff_allow_entry(const char* service, const GSystemServiceAllow* lhs, const
 {
     if (nothing_to_say(lhs, rhs))
         return;
-    emit({"configure-view", key, out}, "%s allow ip $ID0 mask \"%s\"", service, rhs->mask);
+    emit({View::configure, key, out}, "%s allow ip $ID0 mask \"%s\"", service, rhs->mask);
 }
 
 } // namespace
@@ -58,7 +58,7 @@ bool getdiff_GSystemTelnetCfg(GSystemTelnetCfg* lhs, GSystemTelnetCfg* rhs, int*
     };
     if (nothing_to_say(lhs, rhs))
         return false;
-    emit_changed(switches, changed_or_all, lhs, rhs, {"configure-view", key, out});
+    emit_changed(switches, changed_or_all, lhs, rhs, {View::configure, key, out});
     diff_allow_list("ip telnet", lhs->allow, rhs->allow, key, out);
     return false;
 }
@@ -71,7 +71,7 @@ bool getdiff_GSystemSshCfg(GSystemSshCfg* lhs, GSystemSshCfg* rhs, int* key, Lis
     };
     if (nothing_to_say(lhs, rhs))
         return false;
-    emit_changed(switches, changed_or_all, lhs, rhs, {"configure-view", key, out});
+    emit_changed(switches, changed_or_all, lhs, rhs, {View::configure, key, out});
     diff_allow_list("ip ssh", lhs->allow, rhs->allow, key, out);
     return false;
 }

@@ -24,7 +24,7 @@ bool getdiff_GSystemAlarmTypeCfg(GSystemAlarmTypeCfg* lhs, GSystemAlarmTypeCfg* 
     };
     if (nothing_to_say(lhs, rhs))
         return false;
-    emit_changed(commands, changed_or_common, lhs, rhs, {"configure-view", key, out});
+    emit_changed(commands, changed_or_common, lhs, rhs, {View::configure, key, out});
     return false;
 }
 
@@ -40,7 +40,7 @@ bool getdiff_GSystemAlarmSystemCfg(GSystemAlarmSystemCfg* lhs, GSystemAlarmSyste
     };
     if (nothing_to_say(lhs, rhs))
         return false;
-    const Where where{"configure-view", key, out};
+    const Where where{View::configure, key, out};
     emit_changed(load_average, changed_only, lhs, rhs, where);
     emit_changed(free_memory, changed_or_common, lhs, rhs, where);
     for (int i = 0; i < GCFG_TEMPERATURE_SENSORS; ++i)

@@ -12,7 +12,7 @@ bool getdiff_GSystemTftpCfg(GSystemTftpCfg* lhs, GSystemTftpCfg* rhs, int* key, 
     };
     if (nothing_to_say(lhs, rhs))
         return false;
-    emit_changed(commands, changed_or_all, lhs, rhs, {"configure-view", key, out});
+    emit_changed(commands, changed_or_all, lhs, rhs, {View::configure, key, out});
     return false;
 }
 
@@ -24,6 +24,6 @@ bool getdiff_GSystemConfigCfg(GSystemConfigCfg* lhs, GSystemConfigCfg* rhs, int*
     };
     if (nothing_to_say(lhs, rhs))
         return false;
-    emit_changed(commands, changed_or_all, lhs, rhs, {"configure-view", key, out});
+    emit_changed(commands, changed_or_all, lhs, rhs, {View::configure, key, out});
     return false;
 }

@@ -10,7 +10,7 @@ bool getdiff_GSystemCliCfg(GSystemCliCfg* lhs, GSystemCliCfg* rhs, int* key, Lis
     };
     if (nothing_to_say(lhs, rhs))
         return false;
-    emit_changed(commands, changed_or_all, lhs, rhs, {"configure-view", key, out});
+    emit_changed(commands, changed_or_all, lhs, rhs, {View::configure, key, out});
     descend(changed_or_all, getdiff_GCustomOntListShowing, lhs->custom_ont_list_showing, rhs->custom_ont_list_showing,
             key, out);
     return false;
@@ -44,6 +44,6 @@ bool getdiff_GCustomOntListShowing(GCustomOntListShowing* lhs, GCustomOntListSho
     };
     if (nothing_to_say(lhs, rhs))
         return false;
-    emit_changed(columns, changed_or_all, lhs, rhs, {"configure-view", key, out});
+    emit_changed(columns, changed_or_all, lhs, rhs, {View::configure, key, out});
     return false;
 }

@@ -11,7 +11,7 @@ bool getdiff_GSystemSyslogCfg(GSystemSyslogCfg* lhs, GSystemSyslogCfg* rhs, int*
     };
     if (nothing_to_say(lhs, rhs))
         return false;
-    emit_changed(commands, changed_or_all, lhs, rhs, {"configure-view", key, out});
+    emit_changed(commands, changed_or_all, lhs, rhs, {View::configure, key, out});
     descend(changed_or_all, getdiff_GSystemLogDestCfg, lhs->destinations, rhs->destinations, key, out);
     return false;
 }
@@ -26,7 +26,7 @@ bool getdiff_GSystemLogDestCfg(GSystemLogDestCfg* lhs, GSystemLogDestCfg* rhs, i
     };
     if (nothing_to_say(lhs, rhs))
         return false;
-    emit_changed(commands, changed_or_all, lhs, rhs, {"configure-view", key, out});
+    emit_changed(commands, changed_or_all, lhs, rhs, {View::configure, key, out});
     return false;
 }
 
@@ -46,6 +46,6 @@ bool getdiff_GSubmoduleLogCfg(GSubmoduleLogCfg* lhs, GSubmoduleLogCfg* rhs, int*
     if (nothing_to_say(lhs, rhs))
         return false;
     const Value submodule = getCliSubmoduleType(key[0]);
-    emit_changed(level, changed_or_all, lhs, rhs, {"configure-view", key, out, &submodule});
+    emit_changed(level, changed_or_all, lhs, rhs, {View::configure, key, out, &submodule});
     return false;
 }

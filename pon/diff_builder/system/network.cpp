@@ -15,7 +15,7 @@ bool getdiff_GSystemMgmtCfg(GSystemNetworkCfg* lhs, GSystemNetworkCfg* rhs, int*
     };
     if (nothing_to_say(lhs, rhs))
         return false;
-    emit_changed(commands, changed_or_all, lhs, rhs, {"configure-view", key, out});
+    emit_changed(commands, changed_or_all, lhs, rhs, {View::configure, key, out});
     return false;
 }
 
@@ -33,6 +33,6 @@ bool getdiff_GSystemAcsMgmtCfg(GSystemNetworkCfg* lhs, GSystemNetworkCfg* rhs, i
     };
     if (nothing_to_say(lhs, rhs))
         return false;
-    emit_changed(commands, changed_or_all, lhs, rhs, {"configure-view", key, out});
+    emit_changed(commands, changed_or_all, lhs, rhs, {View::configure, key, out});
     return false;
 }

@@ -13,6 +13,6 @@ bool getdiff_GSystemNtpCfg(GSystemNtpCfg* lhs, GSystemNtpCfg* rhs, int* key, Lis
     };
     if (nothing_to_say(lhs, rhs))
         return false;
-    emit_changed(commands, changed_or_all, lhs, rhs, {"configure-view", key, out});
+    emit_changed(commands, changed_or_all, lhs, rhs, {View::configure, key, out});
     return false;
 }

@@ -16,7 +16,6 @@ bool getdiff_GSystemRouteCfg(GSystemRouteCfg* lhs, GSystemRouteCfg* rhs, int* ke
 {
     if (nothing_to_say(lhs, rhs))
         return false;
-    emit({"configure-view", key, out}, "ip route prefix $ID0 mask \"%s\" gateway \"%s\"", rhs->mask,
-         ipv4(rhs->gateway));
+    emit({View::configure, key, out}, "ip route prefix $ID0 mask \"%s\" gateway \"%s\"", rhs->mask, ipv4(rhs->gateway));
     return false;
 }

@@ -11,6 +11,6 @@ bool getdiff_GSystemCommonSettings(GSystemCommonSettings* lhs, GSystemCommonSett
     };
     if (nothing_to_say(lhs, rhs))
         return false;
-    emit_changed(commands, changed_or_common, lhs, rhs, {"configure-view", key, out});
+    emit_changed(commands, changed_or_common, lhs, rhs, {View::configure, key, out});
     return false;
 }

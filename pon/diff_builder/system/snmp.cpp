@@ -20,7 +20,7 @@ bool getdiff_GSystemSnmpCfg(GSystemSnmpCfg* lhs, GSystemSnmpCfg* rhs, int* key, 
     };
     if (nothing_to_say(lhs, rhs))
         return false;
-    emit_changed(commands, changed_or_all, lhs, rhs, {"configure-view", key, out});
+    emit_changed(commands, changed_or_all, lhs, rhs, {View::configure, key, out});
     diff_allow_list("ip snmp", lhs->allow, rhs->allow, key, out);
     walk(changed_or_all, getdiff_GSystemSnmpTrap, lhs->traps, rhs->traps, 0, key, out);
     walk(changed_or_all, getdiff_GSystemSnmpAlias, lhs->alias, rhs->alias, 0, key, out);
@@ -32,7 +32,7 @@ bool getdiff_GSystemSnmpTrap(GSystemSnmpTrap* lhs, GSystemSnmpTrap* rhs, int* ke
 {
     if (!lhs || !rhs || !wanted(changed_or_all, lhs->ipaddr, rhs->ipaddr))
         return false;
-    emit({"configure-view", key, out}, "ip snmp traps %s type %s", ipv4(rhs->ipaddr),
+    emit({View::configure, key, out}, "ip snmp traps %s type %s", ipv4(rhs->ipaddr),
          enum_word("GSnmpTrapType_enum", rhs->type));
     return false;
 }
@@ -46,6 +46,6 @@ bool getdiff_GSystemSnmpAlias(GSystemSnmpAlias* lhs, GSystemSnmpAlias* rhs, int*
     };
     if (nothing_to_say(lhs, rhs))
         return false;
-    emit_changed(commands, changed_or_all, lhs, rhs, {"configure-view", key, out});
+    emit_changed(commands, changed_or_all, lhs, rhs, {View::configure, key, out});
     return false;
 }

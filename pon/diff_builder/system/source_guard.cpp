@@ -11,7 +11,7 @@ bool getdiff_GSystemSourceGuardCfg(GSystemSourceGuardCfg* lhs, GSystemSourceGuar
     };
     if (nothing_to_say(lhs, rhs))
         return false;
-    emit_changed(commands, changed_or_all, lhs, rhs, {"configure-view", key, out});
+    emit_changed(commands, changed_or_all, lhs, rhs, {View::configure, key, out});
     walk(changed_only, getdiff_GSystemSourceGuardBindCfg, lhs->bind, rhs->bind, 0, key, out);
     walk(changed_only, getdiff_GSystemSourceGuardCfgVlanAllowed, lhs->vid, rhs->vid, 0, key, out);
     return false;
@@ -23,7 +23,7 @@ bool getdiff_GSystemSourceGuardBindCfg(GSystemSourceGuardBindCfg* lhs, GSystemSo
 {
     if (nothing_to_say(lhs, rhs))
         return false;
-    emit({"configure-view", key, out}, "ip source-guard bind ip $ID0 mac \"%s\" interface-ont %d/%d service %d",
+    emit({View::configure, key, out}, "ip source-guard bind ip $ID0 mac \"%s\" interface-ont %d/%d service %d",
          mac(rhs->mac), rhs->channel_index, static_cast<int>(rhs->ont_id), rhs->service_id);
     return false;
 }
@@ -36,6 +36,6 @@ bool getdiff_GSystemSourceGuardCfgVlanAllowed(GSystemSourceGuardCfgVlanAllowed* 
                "no ip source-guard ignore-vlan $ID0");
     if (nothing_to_say(lhs, rhs))
         return false;
-    emit_changed(allowed, changed_or_all, lhs, rhs, {"configure-view", key, out});
+    emit_changed(allowed, changed_or_all, lhs, rhs, {View::configure, key, out});
     return false;
 }

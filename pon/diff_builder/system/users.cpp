@@ -12,7 +12,7 @@ bool getdiff_GSystemUser(GSystemUser* lhs, GSystemUser* rhs, int* key, List<char
             append(out, "no user \"%s\"", text(lhs->name));
         return false;
     }
-    const Where where{"configure-view", key, out};
+    const Where where{View::configure, key, out};
     // The password creates the user, so a new one always gets it.
     if (lhs->exist == 0 || wanted(changed_or_all, lhs->password, rhs->password))
         emit(where, "user $ID0 crypted_password \"%s\"", text(rhs->password));
