@@ -82,7 +82,7 @@ struct Field {
     Form form;
     Layout layout;
     Reference reference;
-    Syntax syntax;   ///< how the CLI says it
+    Syntax syntax;   ///< how the CLI says it; Form::record: why none of its fields has a command
     Element element; ///< Form::record: what it adds to the commands of the record
 };
 

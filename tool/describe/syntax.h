@@ -59,6 +59,7 @@ struct Syntax {
     std::int8_t counted_from = 0; ///< the CLI's number for the value 0
     bool shown_signed = false;    ///< an unsigned number that the CLI shows as a signed one
     bool zero_is_free = false;    ///< of a key: the entry is in use unless its key is 0, and 0 names none
+    bool port_marker = false;     ///< a text whose marker %CHANNELID% the CLI shows as %GPON-PORT%
     std::uint8_t longest = 0;     ///< the most characters of a text where that is less than its array holds
 
     /// The off form, where it sets another value than 0.
@@ -107,6 +108,12 @@ struct Syntax {
     {
         Syntax syntax = *this;
         syntax.zero_is_free = true;
+        return syntax;
+    }
+    constexpr Syntax marked() const
+    {
+        Syntax syntax = *this;
+        syntax.port_marker = true;
         return syntax;
     }
     constexpr Syntax at_most(std::uint8_t characters) const

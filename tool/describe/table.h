@@ -199,6 +199,15 @@ constexpr Field record(Member<Struct, Type> member, const RecordOf<Type>& descri
     return field;
 }
 
+/// A record whose commands are unknown in this place. @param syntax  a `no_command`
+template <class Struct, class Type>
+constexpr Field record(Member<Struct, Type> member, const RecordOf<Type>& described, const Syntax& syntax)
+{
+    Field field = record(member, described);
+    field.syntax = syntax;
+    return field;
+}
+
 template <class Struct, class Type, std::size_t N>
 constexpr Field record(Member<Struct, Type[N]> member, const RecordOf<Type>& described, const Element& element,
                        const char* plural)
