@@ -12,11 +12,13 @@
 ///
 ///     <member>      is the value of that member of the same record, in the notation of the member's own line
 ///     <#>           tells the element of the nearest array: its number, name or key, as the array's line says;
-///                   <#1> is a number counted from 1
-///     <*>           are the words that the line of the enclosing record adds (`lead`)
+///                   <##> is its number whatever that line says, <#1> its number counted from 1. To the line of
+///                   an array of numbers that array is the nearest; without any of these its element 0 is meant
+///     <*>           are the words that the line of the enclosing record adds (`lead`, `led_by`)
 ///     [...]         may be left out, which leaves its members as they are; [word:member] switches the member on, or
 ///                   off when the word is not there
 ///     {member=1}    sets that member, and shows nothing
+///     a | b         are two commands; one that does not show the line's own field sets it to 1
 ///
 /// The commands are those of the view that the enclosing object is edited in (`Element::entered`), else of the
 /// configure view.
@@ -41,8 +43,8 @@ constexpr Syntax syntax_of(Syntax::Kind kind, const char* set = nullptr, const c
 
 // ------------------------------------------------------------------------------------------------- a field's command
 
-/// The command that shows the value; `off`, where there is one, sets the members that it shows, or else the field, to 0:
-/// an empty list, where the field is one.
+/// The command that shows the value; `off`, where there is one, sets the members that it shows, or else the field, to
+/// 0: an empty list, where the field is one.
 constexpr Syntax says(const char* set, const char* off = nullptr)
 {
     return syntax_of(Syntax::Kind::says, set, off);
@@ -121,12 +123,10 @@ constexpr Element by_word(Vocabulary words)
     return element;
 }
 
-/// The words that stand at <*> in the templates of the record.
+/// The words that stand at <*> in the templates of the record, where its elements are told by their number.
 constexpr Element lead(const char* words)
 {
-    Element element;
-    element.lead = words;
-    return element;
+    return by_number.led_by(words);
 }
 
 } // namespace pondiff::tool

@@ -153,6 +153,12 @@ struct Element {
         element.remove = command;
         return element;
     }
+    constexpr Element led_by(const char* words) const
+    {
+        Element element = *this;
+        element.lead = words;
+        return element;
+    }
 };
 
 } // namespace pondiff::tool
