@@ -3,17 +3,17 @@
 namespace pondiff::tool {
 
 static constexpr Field system_network_fields[] = {
-    number(FIELD(GSystemNetworkCfg, revision)),
-    text(FIELD(GSystemNetworkCfg, hostname)),
-    ipv4(FIELD(GSystemNetworkCfg, ipaddr)),
-    ipv4(FIELD(GSystemNetworkCfg, netmask)),
-    number(FIELD(GSystemNetworkCfg, mngmtvlan)),
-    ipv4(FIELD(GSystemNetworkCfg, gateway)),
-    number(FIELD(GSystemNetworkCfg, vlan_prio)),
-    number(FIELD(GSystemNetworkCfg, dscp)),
-    ipv4(FIELD(GSystemNetworkCfg, ACSIp)),
-    ipv4(FIELD(GSystemNetworkCfg, ACSMask)),
-    number(FIELD(GSystemNetworkCfg, ACSVid)),
+    number(FIELD(GSystemNetworkCfg, revision), counter),
+    text(FIELD(GSystemNetworkCfg, hostname), says("hostname <hostname>")),
+    ipv4(FIELD(GSystemNetworkCfg, ipaddr), says("management ip <ipaddr>")),
+    ipv4(FIELD(GSystemNetworkCfg, netmask), says("management mask <netmask>")),
+    number(FIELD(GSystemNetworkCfg, mngmtvlan), says("management vid <mngmtvlan>")),
+    ipv4(FIELD(GSystemNetworkCfg, gateway), says("management gateway <gateway>")),
+    number(FIELD(GSystemNetworkCfg, vlan_prio), says("management cos <vlan_prio>")),
+    number(FIELD(GSystemNetworkCfg, dscp), says("management dscp <dscp>")),
+    ipv4(FIELD(GSystemNetworkCfg, ACSIp), says("ip acs server ip <ACSIp>")),
+    ipv4(FIELD(GSystemNetworkCfg, ACSMask), says("ip acs server mask <ACSMask>")),
+    number(FIELD(GSystemNetworkCfg, ACSVid), says("ip acs server vid <ACSVid>")),
 };
 DESCRIBE(GSystemNetworkCfg, system_network_record, system_network_fields);
 

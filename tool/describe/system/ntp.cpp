@@ -3,12 +3,12 @@
 namespace pondiff::tool {
 
 static constexpr Field ntp_fields[] = {
-    number(FIELD(GSystemNtpCfg, revision)),
-    boolean(FIELD(GSystemNtpCfg, enabled)),
-    ipv4(FIELD(GSystemNtpCfg, ntpserver)),
-    number(FIELD(GSystemNtpCfg, interval)),
-    number(FIELD(GSystemNtpCfg, timezone)),
-    boolean(FIELD(GSystemNtpCfg, daylightsaving)),
+    number(FIELD(GSystemNtpCfg, revision), counter),
+    boolean(FIELD(GSystemNtpCfg, enabled), on_off("ip ntp enable", "no ip ntp enable")),
+    ipv4(FIELD(GSystemNtpCfg, ntpserver), says("ip ntp ip <ntpserver>")),
+    number(FIELD(GSystemNtpCfg, interval), says("ip ntp interval <interval>")),
+    number(FIELD(GSystemNtpCfg, timezone), says("ip ntp timezone <timezone>")),
+    boolean(FIELD(GSystemNtpCfg, daylightsaving), on_off("ip ntp daylightsaving", "no ip ntp daylightsaving")),
 };
 DESCRIBE(GSystemNtpCfg, ntp_record, ntp_fields);
 

@@ -2,49 +2,51 @@
 
 namespace pondiff::tool {
 
+static constexpr Syntax held = no_command("held for the device software");
+
 static constexpr Field acs_fields[] = {
-    number(FIELD(GSystemAcsCfg, revision)),
-    boolean(FIELD(GSystemAcsCfg, enabled)),
-    number(FIELD(GSystemAcsCfg, port)),
-    silent(text(FIELD(GSystemAcsCfg, path))),
-    silent(text(FIELD(GSystemAcsCfg, scheme))),
-    silent(text(FIELD(GSystemAcsCfg, login))),
-    silent(secret(FIELD(GSystemAcsCfg, password))),
-    ipv4(FIELD(GSystemAcsCfg, external_fw_ip)),
-    number(FIELD(GSystemAcsCfg, external_fw_port)),
-    number(FIELD(GSystemAcsCfg, local_fw_port)),
-    boolean(FIELD(GSystemAcsCfg, dhcp_server_enabled)),
-    ipv4(FIELD(GSystemAcsCfg, dhcp_ip_range_first)),
-    ipv4(FIELD(GSystemAcsCfg, dhcp_ip_range_last)),
-    number(FIELD(GSystemAcsCfg, dhcp_max_lease_time)),
-    boolean(FIELD(GSystemAcsCfg, dhcp_insert_option43)),
+    number(FIELD(GSystemAcsCfg, revision), counter),
+    boolean(FIELD(GSystemAcsCfg, enabled), held),
+    number(FIELD(GSystemAcsCfg, port), held),
+    silent(text(FIELD(GSystemAcsCfg, path), held)),
+    silent(text(FIELD(GSystemAcsCfg, scheme), held)),
+    silent(text(FIELD(GSystemAcsCfg, login), held)),
+    silent(secret(FIELD(GSystemAcsCfg, password), held)),
+    ipv4(FIELD(GSystemAcsCfg, external_fw_ip), held),
+    number(FIELD(GSystemAcsCfg, external_fw_port), held),
+    number(FIELD(GSystemAcsCfg, local_fw_port), held),
+    boolean(FIELD(GSystemAcsCfg, dhcp_server_enabled), held),
+    ipv4(FIELD(GSystemAcsCfg, dhcp_ip_range_first), held),
+    ipv4(FIELD(GSystemAcsCfg, dhcp_ip_range_last), held),
+    number(FIELD(GSystemAcsCfg, dhcp_max_lease_time), held),
+    boolean(FIELD(GSystemAcsCfg, dhcp_insert_option43), held),
 };
 DESCRIBE(GSystemAcsCfg, acs_record, acs_fields);
 
 static constexpr Field auth_server_fields[] = {
-    ipv4(FIELD(GSystemAuthNetCfg, ip)),
-    number(FIELD(GSystemAuthNetCfg, port)),
-    number(FIELD(GSystemAuthNetCfg, timeout)),
-    silent(secret(FIELD(GSystemAuthNetCfg, secret))),
+    ipv4(FIELD(GSystemAuthNetCfg, ip), held),
+    number(FIELD(GSystemAuthNetCfg, port), held),
+    number(FIELD(GSystemAuthNetCfg, timeout), held),
+    silent(secret(FIELD(GSystemAuthNetCfg, secret), held)),
 };
 DESCRIBE(GSystemAuthNetCfg, auth_server_record, auth_server_fields);
 
 static constexpr Field auth_fields[] = {
-    number(FIELD(GSystemAuthCfg, revision)),
-    enumeration(FIELD(GSystemAuthCfg, authtype), "GAuthType_enum"),
-    enumeration(FIELD(GSystemAuthCfg, accounting), "GAuthType_enum"),
-    boolean(FIELD(GSystemAuthCfg, accounting_cmd)),
-    boolean(FIELD(GSystemAuthCfg, authorization)),
+    number(FIELD(GSystemAuthCfg, revision), counter),
+    enumeration(FIELD(GSystemAuthCfg, authtype), "GAuthType_enum", held),
+    enumeration(FIELD(GSystemAuthCfg, accounting), "GAuthType_enum", held),
+    boolean(FIELD(GSystemAuthCfg, accounting_cmd), held),
+    boolean(FIELD(GSystemAuthCfg, authorization), held),
     record(FIELD(GSystemAuthCfg, server), auth_server_record),
     record(FIELD(GSystemAuthCfg, radius_server), auth_server_record),
 };
 DESCRIBE(GSystemAuthCfg, auth_record, auth_fields);
 
 static constexpr Field fan_fields[] = {
-    number(FIELD(GSystemFanCfg, revision)),
-    number(FIELD(GSystemFanCfg, speed_table), {}, "temperature steps"),
-    number(FIELD(GSystemFanCfg, fixed_speed)),
-    number(FIELD(GSystemFanCfg, min_speed)),
+    number(FIELD(GSystemFanCfg, revision), counter),
+    number(FIELD(GSystemFanCfg, speed_table), held, "temperature steps"),
+    number(FIELD(GSystemFanCfg, fixed_speed), held),
+    number(FIELD(GSystemFanCfg, min_speed), held),
 };
 DESCRIBE(GSystemFanCfg, fan_record, fan_fields);
 
@@ -72,7 +74,7 @@ DESCRIBE(GSystemServices, services_record, services_fields);
 
 static constexpr Field system_fields[] = {
     record(FIELD(GSystemCfg, network), system_network_record),
-    record(FIELD(GSystemCfg, user), user_record, "users"),
+    record(FIELD(GSystemCfg, user), user_record, by_name.removed_by("no user <#>"), "users"),
     record(FIELD(GSystemCfg, services), services_record),
     record(FIELD(GSystemCfg, settings), common_settings_record),
 };
