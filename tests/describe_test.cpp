@@ -42,6 +42,30 @@ static_assert(!tile<Pair>(swapped));
 static_assert(!tile<Pair>(twice));
 static_assert(tile<Pair>(of_another) && !belong(of_another, "Pair"));
 
+/// Whether a table compiles whose first line has this syntax.
+constexpr bool compiles(const Syntax& syntax, const Syntax& second = no_command("a reason"))
+{
+    const Field table[] = {number(FIELD(Pair, first), syntax), text(FIELD(Pair, second), second)};
+    return have_syntax(table);
+}
+
+static_assert(compiles(says("first <#> <first> [second <second>]", "no first")));
+static_assert(compiles(says("<*> first <first> {second=0}"), with("first")));
+static_assert(compiles(says("first <first> [second:second]"), with("first")));
+static_assert(!compiles({}));
+static_assert(!compiles(says("first <frist>")));
+static_assert(!compiles(says("first <second>")));
+static_assert(!compiles(says("first <first")));
+static_assert(!compiles(says("first first>")));
+static_assert(!compiles(says("first <first> [second <second>")));
+static_assert(!compiles(says("first <first> second]")));
+static_assert(!compiles(says("first <first> [third:third]")));
+static_assert(!compiles(says("first <first> {third=0}")));
+static_assert(!compiles(says("first <first>", "no first <third>")));
+static_assert(!compiles(says("first <first>"), with("first")));
+static_assert(!compiles(says("first <first> <second>"), with("third")));
+static_assert(!compiles(no_command("a reason"), with("first")));
+
 // --------------------------------------------------------------------------------------------------------- helpers
 
 void collect(const Record& record, std::map<std::string, const Record*>& records)

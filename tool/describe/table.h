@@ -23,6 +23,7 @@
 #define DESCRIBE(record, name, table)                                                                                  \
     static_assert(::pondiff::tool::belong(table, #record), #record ": a line is of another struct");                   \
     static_assert(::pondiff::tool::tile<record>(table), #record ": not a line for each field in its order");           \
+    static_assert(::pondiff::tool::have_syntax(table), #record ": a line without its command, or a broken one");       \
     constexpr ::pondiff::tool::RecordOf<record> name(#record, table)
 
 namespace pondiff::tool {
@@ -258,6 +259,95 @@ constexpr bool tile(const Field (&table)[N])
         offset += field.size;
     }
     return offset == sizeof(Struct);
+}
+
+template <std::size_t N>
+constexpr const Field* find_member(const Field (&table)[N], std::string_view name)
+{
+    for (const Field& field : table) {
+        if (field.name == name) {
+            return &field;
+        }
+    }
+    return nullptr;
+}
+
+/// Whether the brackets of a command are balanced and what stands in them is a sign of phrases.h or a member.
+template <std::size_t N>
+constexpr bool is_well_formed(const char* command, const Field (&table)[N])
+{
+    std::string_view rest = command != nullptr ? command : "";
+    bool optional = false;
+    while (!rest.empty()) {
+        const char sign = rest.front();
+        rest.remove_prefix(1);
+        if (sign == '[' || sign == ']') {
+            if (optional == (sign == '[')) {
+                return false;
+            }
+            optional = sign == '[';
+        } else if (sign == '<' || sign == '{' || (sign == ':' && optional)) {
+            const std::size_t end = rest.find(sign == '<' ? '>' : sign == '{' ? '}' : ']');
+            if (end == rest.npos) {
+                return false;
+            }
+            const std::string_view inside = rest.substr(0, end);
+            const std::string_view name = sign == '{' ? inside.substr(0, inside.find('=')) : inside;
+            const bool special = name == "#" || name == "##" || name == "#1" || name == "*" || name == "?";
+            if (!(sign == '<' && special) && find_member(table, name) == nullptr) {
+                return false;
+            }
+            rest.remove_prefix(sign == ':' ? end : end + 1);
+        } else if (sign == '>' || sign == '}') {
+            return false;
+        }
+    }
+    return !optional;
+}
+
+/// Whether a command has a place for the member.
+constexpr bool shows(std::string_view command, std::string_view member)
+{
+    for (std::size_t at = command.find(member); at != command.npos; at = command.find(member, at + 1)) {
+        const std::size_t end = at + member.size();
+        if (at != 0 && end != command.size() &&
+            std::string_view("<{:").find(command[at - 1]) != std::string_view::npos &&
+            std::string_view(">=]").find(command[end]) != std::string_view::npos) {
+            return true;
+        }
+    }
+    return false;
+}
+
+/// Whether each line says how the CLI says its field, in commands that can be followed.
+template <std::size_t N>
+constexpr bool have_syntax(const Field (&table)[N])
+{
+    for (const Field& field : table) {
+        const Syntax& syntax = field.syntax;
+        if (field.record == nullptr && syntax.kind == Syntax::Kind::undescribed) {
+            return false;
+        }
+        const bool has_value = syntax.kind == Syntax::Kind::says && field.form != Form::boolean;
+        if (has_value && (syntax.set == nullptr || !shows(syntax.set, field.name))) {
+            return false;
+        }
+        if (!is_well_formed(syntax.set, table) || !is_well_formed(syntax.off, table)) {
+            return false;
+        }
+        if (syntax.kind == Syntax::Kind::with) {
+            const Field* const other = find_member(table, syntax.reason);
+            if (other == nullptr || other->syntax.set == nullptr || !shows(other->syntax.set, field.name)) {
+                return false;
+            }
+        }
+        for (const char* const command : {field.element.enter, field.element.remove}) {
+            if (command != nullptr && std::string_view(command).find("<#>") == std::string_view::npos) {
+                return false;
+            }
+        }
+    }
+    return true;
 }
 
 /// True when each field is a single short value and the names leave room for the values on a line.
