@@ -46,10 +46,11 @@ void append_ranges(const GPonOntSelectiveTunnel& tunnel, Text& list)
 
 } // namespace
 
-/// Does not compare: the whole list is given anew.
-bool getdiff_GPonOntSelectiveTunnel(GPonOntSelectiveTunnel* lhs, GPonOntSelectiveTunnel* rhs, int* key, List<char>& out)
+/// Does not compare: the whole list is given anew, whatever the old one was.
+bool getdiff_GPonOntSelectiveTunnel(GPonOntSelectiveTunnel* /*lhs*/, GPonOntSelectiveTunnel* rhs, int* key,
+                                    List<char>& out)
 {
-    if (!lhs || !rhs)
+    if (!rhs)
         return false;
     sort_vids(*rhs);
     Text list;
