@@ -123,12 +123,6 @@ TEST(FullDiff, NullRecordsGiveWhatEqualOnesGive)
     session.open();
     EXPECT_EQ(taken(GetDiff(nullptr, session.cfg)), "");
     EXPECT_EQ(taken(GetDiff(session.orig, nullptr)), "");
-    int key[10] = {};
-    List<char> out;
-    EXPECT_FALSE(getdiff_GCfg(nullptr, session.cfg, key, out));
-    EXPECT_FALSE(getdiff_GCfg(session.orig, nullptr, key, out));
-    EXPECT_FALSE(getdiff_GPonCfg(session.orig ? &session.orig->pon : nullptr, nullptr, key, out));
-    EXPECT_EQ(out.size(), 0);
 }
 
 TEST(FullDiff, WalkOnAListOfTheCallersKeepsEveryElement)

@@ -24,14 +24,6 @@ TEST(PonNetwork, MulticastVlanAndItsClassHaveNoCommand)
     EXPECT_EQ(network.key[0], 31);
 }
 
-TEST(PonNetwork, EqualRecordsLeaveTheKeyAlone)
-{
-    Diff network{getdiff_GPonNetworkCfg};
-    network.key[0] = 5;
-    EXPECT_EQ(network.elements(), Elements{});
-    EXPECT_EQ(network.key[0], 5);
-}
-
 TEST(PonNetwork, TerminalVlansFollowInSlotOrder)
 {
     Diff network{getdiff_GPonNetworkCfg};

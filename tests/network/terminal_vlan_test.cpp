@@ -37,23 +37,6 @@ TEST_F(TerminalVlan, RemovedWithoutANameSaysNothing)
     EXPECT_EQ(diff.elements(), Elements{});
 }
 
-TEST_F(TerminalVlan, EqualOrNullRecordsSayNothing)
-{
-    EXPECT_EQ(diff.elements(), Elements{});
-    List<char> out;
-    int key[10] = {};
-    EXPECT_FALSE(getdiff_GVlanTagEx(nullptr, &diff.after, key, out));
-    EXPECT_FALSE(getdiff_GVlanTagEx(&diff.before, nullptr, key, out));
-    EXPECT_EQ(out.size(), 0);
-}
-
-TEST_F(TerminalVlan, UnusedSlotSaysNothing)
-{
-    diff.before.exists = diff.after.exists = 0;
-    diff.after.tag.vid = 7;
-    EXPECT_EQ(diff.elements(), Elements{});
-}
-
 TEST_F(TerminalVlan, NewWithTheOldSlotsTagIsNamed)
 {
     diff.before.exists = 0;

@@ -86,13 +86,6 @@ TEST_F(OltGeneral, EveryRowInOrder)
     EXPECT_EQ(diff.key[0], 15);
 }
 
-TEST_F(OltGeneral, EqualRecordsSayNothingAndLeaveTheKey)
-{
-    diff.key[0] = 9;
-    EXPECT_EQ(diff.elements(), Elements{});
-    EXPECT_EQ(diff.key[0], 9);
-}
-
 TEST_F(OltGeneral, FieldsWithoutACommand)
 {
     after.revision = 1;
@@ -353,15 +346,6 @@ TEST_F(OltGeneral, RedefinitionsStandUnderTheirIndex)
     EXPECT_EQ(diff.script(), "gpon olt profile dhcpra a   0 vid 0\n"
                              "gpon olt profile dhcpra a  12 vid 0\n"
                              "gpon olt profile dhcpv6ra b  13 vid 0\n");
-}
-
-TEST_F(OltGeneral, NullRecordsSayNothing)
-{
-    List<char> out;
-    int key[10] = {};
-    getdiff_GPonOltGeneralCfg(nullptr, &after, key, out);
-    getdiff_GPonOltGeneralCfg(&before, nullptr, key, out);
-    EXPECT_EQ(out.size(), 0);
 }
 
 } // namespace

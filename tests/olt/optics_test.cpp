@@ -152,15 +152,6 @@ TEST_F(OltOptics, PrintAllForcesFortyNineCommandsWhateverPartIsWanted)
     }
 }
 
-TEST_F(OltOptics, EqualRecordsSayNothing)
-{
-    for (const Command& command : commands) {
-        command.set(diff.before);
-        command.set(diff.after);
-    }
-    EXPECT_EQ(diff.elements(), Elements{});
-}
-
 TEST_F(OltOptics, SignalDetectPolarityAndRssiPulseHaveNoCommand)
 {
     diff.after.laser_sd_polarity = 1;

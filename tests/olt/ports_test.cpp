@@ -99,14 +99,8 @@ TEST_F(GponPort, PrintAllLeavesOutProfilesWithoutAName)
     EXPECT_EQ(elements[1], "shutdown");
 }
 
-TEST_F(GponPort, EqualRecordsSayNothing)
+TEST_F(GponPort, OntLimitHasNoCommand)
 {
-    EXPECT_EQ(diff.elements(), Elements{});
-}
-
-TEST_F(GponPort, RevisionAndOntLimitHaveNoCommand)
-{
-    after.revision = 1;
     after.max_ont_count = 128;
     EXPECT_EQ(diff.elements(), Elements{});
 }
@@ -262,14 +256,6 @@ TEST(Olt, OnePortAlone)
     olt.after.channel[2].fec_down = 1;
     EXPECT_EQ(olt.elements(), (Elements{"configure terminal\ninterface gpon-port    2", "fec"}));
     EXPECT_EQ(olt.key[0], 7);
-}
-
-TEST(Olt, EqualRecordsSayNothingAndLeaveTheKey)
-{
-    Diff olt{getdiff_GPonOltCfg};
-    olt.key[0] = 3;
-    EXPECT_EQ(olt.elements(), Elements{});
-    EXPECT_EQ(olt.key[0], 3);
 }
 
 TEST(Olt, PrintAllShowsEveryPortButNotTheGeneralSettings)

@@ -117,22 +117,6 @@ TEST_F(Ont, AnyNonZeroExistenceShowsItsChanges)
     EXPECT_EQ(diff.elements(), (Elements{"", "", "fec"})) << "its view is entered first";
 }
 
-TEST_F(Ont, AbsentInBothSaysNothing)
-{
-    before.exist = after.exist = 0;
-    after.enabled = 1;
-    EXPECT_EQ(diff.elements(), Elements{});
-    diff.all = 1;
-    EXPECT_EQ(diff.elements(), Elements{});
-}
-
-TEST_F(Ont, EqualRecordsSayNothingAndLeaveTheKey)
-{
-    diff.key[1] = 9;
-    EXPECT_EQ(diff.elements(), Elements{});
-    EXPECT_EQ(diff.key[1], 9);
-}
-
 TEST_F(Ont, EveryRowInOrder)
 {
     diff.view = "root";
@@ -411,15 +395,6 @@ TEST_F(Ont, WordsOfTheRegistry)
     after.rf_port_state = 3;
     after.custom_model = 65535;
     EXPECT_EQ(diff.script(), "rf-port-state \"unknown\"\ncustom-model \"unknown\"\n");
-}
-
-TEST_F(Ont, NullRecordsSayNothing)
-{
-    List<char> out;
-    int key[10] = {};
-    getdiff_GPonOntCfg(nullptr, &after, key, out);
-    getdiff_GPonOntCfg(&before, nullptr, key, out);
-    EXPECT_EQ(out.size(), 0);
 }
 
 } // namespace

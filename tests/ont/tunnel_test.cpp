@@ -73,16 +73,6 @@ TEST_F(OntTunnel, EqualListsAreGivenAllTheSame)
     EXPECT_EQ(text_of({7, 9}), "7,9");
 }
 
-TEST_F(OntTunnel, NullRecordsSayNothing)
-{
-    put(diff.after, {7});
-    List<char> out;
-    int key[10] = {};
-    getdiff_GPonOntSelectiveTunnel(nullptr, &diff.after, key, out);
-    getdiff_GPonOntSelectiveTunnel(&diff.after, nullptr, key, out);
-    EXPECT_EQ(out.size(), 0);
-}
-
 TEST_F(OntTunnel, EmptyList)
 {
     EXPECT_EQ(text_of({}), "");

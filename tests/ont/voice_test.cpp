@@ -153,13 +153,6 @@ TEST_F(OntVoice, PrintAllForcesWhateverPartIsWanted)
     }
 }
 
-TEST_F(OntVoice, EqualRecordsSayNothing)
-{
-    fill_port(before.voice_port[0], "100");
-    after = before;
-    EXPECT_EQ(diff.elements(), Elements{});
-}
-
 // ---------------------------------------------------------------------------------------------------- voice ports
 
 TEST_F(OntVoice, EachFieldOfAPortAlone)

@@ -74,11 +74,6 @@ class SvlanEntry : public testing::Test {
     Diff<GSvlanAddressTableConfig> diff{getdiff_GSvlanAddressTableConfig};
 };
 
-TEST_F(SvlanEntry, EqualRecordsSayNothing)
-{
-    EXPECT_EQ(diff.elements(), Elements{});
-}
-
 TEST_F(SvlanEntry, EverySettingOn)
 {
     diff.after.forwarding_mode = 1;
@@ -271,25 +266,6 @@ class AddressTableProfile : public OltProfileTest<GPonProfileOltAddressTable> {
     AddressTableProfile() : OltProfileTest(getdiff_GPonProfileOltAddressTable, &GPonProfilesOlt::address_table) {}
 };
 
-TEST_F(AddressTableProfile, FreeOnBothSidesSaysNothing)
-{
-    diff.before.exist = diff.after.exist = 0;
-    put(diff.after.name, "hotel");
-    diff.after.table_config.remove_when_aged = 1;
-    diff.after.svlan_config[0].svlan = 100;
-    for (const int all : {0, 1}) {
-        diff.all = all;
-        EXPECT_EQ(elements(), Elements{});
-        EXPECT_EQ(diff.key[1], 9);
-    }
-}
-
-TEST_F(AddressTableProfile, EqualRecordsSayNothingAndLeaveTheKey)
-{
-    EXPECT_EQ(elements(), Elements{});
-    EXPECT_EQ(diff.key[1], 9);
-}
-
 TEST_F(AddressTableProfile, NewIsEnteredAndNothingMore)
 {
     diff.before = GPonProfileOltAddressTable{};
@@ -351,9 +327,8 @@ TEST_F(AddressTableProfile, EveryFieldChangedInOrder)
     EXPECT_EQ(diff.key[1], 511);
 }
 
-TEST_F(AddressTableProfile, RevisionAndAgingTimerHaveNoCommand)
+TEST_F(AddressTableProfile, AgingTimerHasNoCommand)
 {
-    diff.after.revision = 7;
     diff.after.table_config.aging_timer = 300;
     EXPECT_EQ(elements(), Elements{});
     EXPECT_EQ(diff.key[1], 511);
@@ -477,19 +452,6 @@ TEST_F(AddressTableProfile, RenameIsSeenWhereTheOldFlagIsExactlyOne)
     EXPECT_EQ(script(), "configure terminal\nprofile address-table \"office\"\nname \"hotel\"\n");
     diff.before.exist = 2;
     EXPECT_EQ(elements(), Elements{});
-}
-
-TEST_F(AddressTableProfile, NullRecordsSayNothing)
-{
-    List<char> out;
-    int key[10] = {};
-    print_all = 1;
-    getdiff_GPonProfileOltAddressTable(nullptr, &diff.after, key, out);
-    getdiff_GPonProfileOltAddressTable(&diff.before, nullptr, key, out);
-    getdiff_GAddressTableConfig(nullptr, &diff.after.table_config, key, out);
-    getdiff_GSvlanAddressTableConfig(&diff.before.svlan_config[0], nullptr, key, out);
-    print_all = 0;
-    EXPECT_EQ(out.size(), 0);
 }
 
 } // namespace

@@ -9,85 +9,6 @@ class DhcpRaProfile : public OltProfileTest<GPonProfileOltDhcpRa> {
     DhcpRaProfile() : OltProfileTest(getdiff_GPonProfileOltDhcpRa, &GPonProfilesOlt::dhcp_ra) {}
 };
 
-TEST_F(DhcpRaProfile, FreeOnBothSidesSaysNothing)
-{
-    diff.before.exist = diff.after.exist = 0;
-    put(diff.after.name, "hotel");
-    diff.after.relay_agent_enabled = 1;
-    for (const int all : {0, 1}) {
-        diff.all = all;
-        EXPECT_EQ(elements(), Elements{});
-    }
-}
-
-TEST_F(DhcpRaProfile, EqualRecordsSayNothing)
-{
-    EXPECT_EQ(elements(), Elements{});
-}
-
-TEST_F(DhcpRaProfile, RevisionHasNoCommand)
-{
-    diff.after.revision = 7;
-    EXPECT_EQ(elements(), Elements{});
-}
-
-TEST_F(DhcpRaProfile, NewIsEnteredAndNothingMore)
-{
-    diff.before = GPonProfileOltDhcpRa{};
-    EXPECT_EQ(elements(), Elements{"configure terminal\nprofile dhcp-ra \"office\""});
-}
-
-TEST_F(DhcpRaProfile, NewWithSettingsOfItsOwnIsNotNamed)
-{
-    diff.before.exist = 0;
-    put(diff.before.name, "hotel");
-    put(diff.before.description, "same");
-    put(diff.after.description, "same");
-    diff.after.relay_agent_enabled = 1;
-    put(diff.after.trusted_primary, {192, 0, 2, 1});
-    EXPECT_EQ(elements(), (Elements{"configure terminal\nprofile dhcp-ra \"office\"", "", "enable", "",
-                                    "trusted primary \"192.0.2.1\""}));
-}
-
-TEST_F(DhcpRaProfile, NewInAFullDumpIsNamedBeforeItIsEnteredByItself)
-{
-    diff.before = GPonProfileOltDhcpRa{};
-    diff.all = 1;
-    EXPECT_EQ(elements(), (Elements{"configure terminal\nprofile dhcp-ra \"office\"",
-                                    "name \"office\"",
-                                    "",
-                                    "",
-                                    "description \"\"",
-                                    "",
-                                    "no enable",
-                                    "",
-                                    "overwrite-option82 circuit-id \"\"",
-                                    "",
-                                    "overwrite-option82 remote-id \"\"",
-                                    "",
-                                    "no overwrite-option82",
-                                    "",
-                                    "no dos-block",
-                                    "",
-                                    "dos-block packet-limit \"0\"",
-                                    "",
-                                    "dos-block block-time \"0\"",
-                                    "",
-                                    "no trusted server",
-                                    "",
-                                    "trusted primary \"0.0.0.0\"",
-                                    "",
-                                    "trusted secondary \"0.0.0.0\"",
-                                    "",
-                                    "trusted timeout \"0\""}));
-}
-
-TEST_F(DhcpRaProfile, RenamedUnderItsOldName)
-{
-    put(diff.after.name, "hotel");
-    EXPECT_EQ(elements(), (Elements{"configure terminal\nprofile dhcp-ra \"office\"", "name \"hotel\""}));
-}
-
 TEST_F(DhcpRaProfile, EveryFieldChangedInOrder)
 {
     put(diff.after.name, "sixteen-letters!");
@@ -242,44 +163,6 @@ TEST_F(DhcpRaProfile, BytesBehindTheTerminatorOfAFormatCount)
     put(diff.after.circuit_id_format, "c");
     diff.after.circuit_id_format[255] = 'x';
     EXPECT_EQ(script(), entered + "overwrite-option82 circuit-id \"c\"\n");
-}
-
-TEST_F(DhcpRaProfile, RemovedShowsItsChangedFieldsAlone)
-{
-    diff.after.exist = 0;
-    EXPECT_EQ(elements(), Elements{});
-    put(diff.before.circuit_id_format, "c");
-    put(diff.before.trusted_secondary, {192, 0, 2, 2});
-    diff.after = GPonProfileOltDhcpRa{};
-    EXPECT_EQ(elements(),
-              behind("configure terminal\nprofile dhcp-ra \"office\"", "name \"\"\n"
-                                                                       "overwrite-option82 circuit-id \"\"\n"
-                                                                       "trusted secondary \"0.0.0.0\"\n"));
-}
-
-TEST_F(DhcpRaProfile, OtherFlagsThanOneNeitherCreateNorRename)
-{
-    diff.before.exist = 0;
-    diff.after.exist = 2;
-    put(diff.before.name, "hotel");
-    EXPECT_EQ(elements(), Elements{});
-    diff.before.exist = 65535;
-    diff.after.exist = 1;
-    EXPECT_EQ(elements(), Elements{});
-    diff.before.exist = 1;
-    diff.after.exist = 65535;
-    EXPECT_EQ(elements(), (Elements{"configure terminal\nprofile dhcp-ra \"hotel\"", "name \"office\""}));
-}
-
-TEST_F(DhcpRaProfile, NullRecordsSayNothing)
-{
-    List<char> out;
-    int key[10] = {};
-    print_all = 1;
-    getdiff_GPonProfileOltDhcpRa(nullptr, &diff.after, key, out);
-    getdiff_GPonProfileOltDhcpRa(&diff.before, nullptr, key, out);
-    print_all = 0;
-    EXPECT_EQ(out.size(), 0);
 }
 
 } // namespace

@@ -11,83 +11,6 @@ class Dhcpv6RaProfile : public OltProfileTest<GPonProfileOltDhcpv6Ra> {
     Dhcpv6RaProfile() : OltProfileTest(getdiff_GPonProfileOltDhcpv6Ra, &GPonProfilesOlt::dhcpv6_ra) {}
 };
 
-TEST_F(Dhcpv6RaProfile, FreeOnBothSidesSaysNothing)
-{
-    diff.before.exist = diff.after.exist = 0;
-    put(diff.after.name, "hotel");
-    diff.after.relay_agent_enabled = 1;
-    for (const int all : {0, 1}) {
-        diff.all = all;
-        EXPECT_EQ(elements(), Elements{});
-    }
-}
-
-TEST_F(Dhcpv6RaProfile, EqualRecordsSayNothing)
-{
-    EXPECT_EQ(elements(), Elements{});
-}
-
-TEST_F(Dhcpv6RaProfile, RevisionHasNoCommand)
-{
-    diff.after.revision = 7;
-    EXPECT_EQ(elements(), Elements{});
-}
-
-TEST_F(Dhcpv6RaProfile, NewIsEnteredAndNothingMore)
-{
-    diff.before = GPonProfileOltDhcpv6Ra{};
-    EXPECT_EQ(elements(), Elements{"configure terminal\nprofile dhcpv6-ra \"office\""});
-}
-
-TEST_F(Dhcpv6RaProfile, NewWithSettingsOfItsOwnIsNotNamed)
-{
-    diff.before.exist = 0;
-    put(diff.before.name, "hotel");
-    put(diff.after.description, "main");
-    diff.after.relay_agent_enabled = 1;
-    EXPECT_EQ(elements(),
-              (Elements{"configure terminal\nprofile dhcpv6-ra \"office\"", "", "description \"main\"", "", "enable"}));
-}
-
-TEST_F(Dhcpv6RaProfile, NewInAFullDumpIsNamedBeforeItIsEnteredByItself)
-{
-    diff.before = GPonProfileOltDhcpv6Ra{};
-    diff.all = 1;
-    EXPECT_EQ(elements(), (Elements{"configure terminal\nprofile dhcpv6-ra \"office\"",
-                                    "name \"office\"",
-                                    "",
-                                    "",
-                                    "description \"\"",
-                                    "",
-                                    "no enable",
-                                    "",
-                                    "add-interface-id \"\"",
-                                    "",
-                                    "add-remote-id \"\"",
-                                    "",
-                                    "no add-suboptions",
-                                    "",
-                                    "no dos-block",
-                                    "",
-                                    "dos-block packet-limit \"0\"",
-                                    "",
-                                    "dos-block block-time \"0\"",
-                                    "",
-                                    "no trusted server",
-                                    "",
-                                    "trusted primary \"::\"",
-                                    "",
-                                    "trusted secondary \"::\"",
-                                    "",
-                                    "trusted timeout \"0\""}));
-}
-
-TEST_F(Dhcpv6RaProfile, RenamedUnderItsOldName)
-{
-    put(diff.after.name, "hotel");
-    EXPECT_EQ(elements(), (Elements{"configure terminal\nprofile dhcpv6-ra \"office\"", "name \"hotel\""}));
-}
-
 TEST_F(Dhcpv6RaProfile, EveryFieldChangedInOrder)
 {
     put(diff.after.name, "sixteen-letters!");
@@ -282,43 +205,6 @@ TEST_F(Dhcpv6RaProfile, LastByteOfAnAddressCounts)
     diff.after.trusted_primary[15] = 1;
     diff.after.trusted_secondary[15] = 2;
     EXPECT_EQ(script(), entered + "trusted primary \"::1\"\ntrusted secondary \"::2\"\n");
-}
-
-TEST_F(Dhcpv6RaProfile, RemovedShowsItsChangedFieldsAlone)
-{
-    diff.after.exist = 0;
-    EXPECT_EQ(elements(), Elements{});
-    put(diff.before.interface_id_format, "i");
-    diff.before.trusted_primary[15] = 1;
-    diff.after = GPonProfileOltDhcpv6Ra{};
-    EXPECT_EQ(elements(), behind("configure terminal\nprofile dhcpv6-ra \"office\"", "name \"\"\n"
-                                                                                     "add-interface-id \"\"\n"
-                                                                                     "trusted primary \"::\"\n"));
-}
-
-TEST_F(Dhcpv6RaProfile, OtherFlagsThanOneNeitherCreateNorRename)
-{
-    diff.before.exist = 0;
-    diff.after.exist = 2;
-    put(diff.before.name, "hotel");
-    EXPECT_EQ(elements(), Elements{});
-    diff.before.exist = 65535;
-    diff.after.exist = 1;
-    EXPECT_EQ(elements(), Elements{});
-    diff.before.exist = 1;
-    diff.after.exist = 65535;
-    EXPECT_EQ(elements(), (Elements{"configure terminal\nprofile dhcpv6-ra \"hotel\"", "name \"office\""}));
-}
-
-TEST_F(Dhcpv6RaProfile, NullRecordsSayNothing)
-{
-    List<char> out;
-    int key[10] = {};
-    print_all = 1;
-    getdiff_GPonProfileOltDhcpv6Ra(nullptr, &diff.after, key, out);
-    getdiff_GPonProfileOltDhcpv6Ra(&diff.before, nullptr, key, out);
-    print_all = 0;
-    EXPECT_EQ(out.size(), 0);
 }
 
 } // namespace

@@ -10,84 +10,6 @@ class PppoeIaProfile : public OltProfileTest<GPonProfileOltPppoeIa> {
     PppoeIaProfile() : OltProfileTest(getdiff_GPonProfileOltPppoeIa, &GPonProfilesOlt::pppoe_ia) {}
 };
 
-TEST_F(PppoeIaProfile, FreeOnBothSidesSaysNothing)
-{
-    diff.before.exist = diff.after.exist = 0;
-    put(diff.after.name, "hotel");
-    diff.after.pppoe_plus_enabled = 1;
-    diff.after.max_number_pppoe_sessions = 64;
-    for (const int all : {0, 1}) {
-        diff.all = all;
-        EXPECT_EQ(elements(), Elements{});
-    }
-}
-
-TEST_F(PppoeIaProfile, EqualRecordsSayNothing)
-{
-    EXPECT_EQ(elements(), Elements{});
-}
-
-TEST_F(PppoeIaProfile, RevisionHasNoCommand)
-{
-    diff.after.revision = 7;
-    EXPECT_EQ(elements(), Elements{});
-}
-
-TEST_F(PppoeIaProfile, NewIsEnteredAndNothingMore)
-{
-    diff.before = GPonProfileOltPppoeIa{};
-    EXPECT_EQ(elements(), Elements{"configure terminal\nprofile pppoe-ia \"office\""});
-}
-
-TEST_F(PppoeIaProfile, NewWithSettingsOfItsOwn)
-{
-    diff.before = GPonProfileOltPppoeIa{};
-    put(diff.after.description, "main");
-    diff.after.pppoe_plus_enabled = 1;
-    EXPECT_EQ(elements(),
-              (Elements{"configure terminal\nprofile pppoe-ia \"office\"", "", "description \"main\"", "", "enable"}));
-}
-
-TEST_F(PppoeIaProfile, NewInASlotThatHeldAnotherNameIsNotNamed)
-{
-    diff.before.exist = 0;
-    put(diff.before.name, "hotel");
-    EXPECT_EQ(elements(), Elements{"configure terminal\nprofile pppoe-ia \"office\""});
-}
-
-TEST_F(PppoeIaProfile, NewInAFullDumpIsNamedBeforeItIsEnteredByItself)
-{
-    diff.before = GPonProfileOltPppoeIa{};
-    diff.all = 1;
-    EXPECT_EQ(elements(), (Elements{"configure terminal\nprofile pppoe-ia \"office\"",
-                                    "name \"office\"",
-                                    "",
-                                    "",
-                                    "description \"\"",
-                                    "",
-                                    "no enable",
-                                    "",
-                                    "format circuit-id \"\"",
-                                    "",
-                                    "format remote-id \"\"",
-                                    "",
-                                    "vendor-id \"0x000000\"",
-                                    "",
-                                    "no dos-block enable",
-                                    "",
-                                    "dos-block packet-limit \"0\"",
-                                    "",
-                                    "dos-block block-time \"0\"",
-                                    "",
-                                    "no sessions-monitoring enable"}));
-}
-
-TEST_F(PppoeIaProfile, RenamedUnderItsOldName)
-{
-    put(diff.after.name, "hotel");
-    EXPECT_EQ(elements(), (Elements{"configure terminal\nprofile pppoe-ia \"office\"", "name \"hotel\""}));
-}
-
 TEST_F(PppoeIaProfile, EveryFieldChangedInOrder)
 {
     put(diff.after.name, "sixteen-letters!");
@@ -259,43 +181,6 @@ TEST_F(PppoeIaProfile, ClearedFormatsAreEmptyQuotes)
     put(diff.before.circuit_id_format, "c");
     put(diff.before.remote_id_format, "r");
     EXPECT_EQ(script(), entered + "format circuit-id \"\"\nformat remote-id \"\"\n");
-}
-
-TEST_F(PppoeIaProfile, RemovedShowsItsChangedFieldsAlone)
-{
-    diff.after.exist = 0;
-    EXPECT_EQ(elements(), Elements{});
-    diff.before.pppoe_plus_enabled = 1;
-    diff.before.max_number_pppoe_sessions = 64;
-    diff.after = GPonProfileOltPppoeIa{};
-    EXPECT_EQ(elements(), behind("configure terminal\nprofile pppoe-ia \"office\"", "name \"\"\n"
-                                                                                    "no enable\n"
-                                                                                    "sessions-limit 0\n"));
-}
-
-TEST_F(PppoeIaProfile, OtherFlagsThanOneNeitherCreateNorRename)
-{
-    diff.before.exist = 0;
-    diff.after.exist = 2;
-    put(diff.before.name, "hotel");
-    EXPECT_EQ(elements(), Elements{});
-    diff.before.exist = 65535;
-    diff.after.exist = 1;
-    EXPECT_EQ(elements(), Elements{});
-    diff.before.exist = 1;
-    diff.after.exist = 65535;
-    EXPECT_EQ(elements(), (Elements{"configure terminal\nprofile pppoe-ia \"hotel\"", "name \"office\""}));
-}
-
-TEST_F(PppoeIaProfile, NullRecordsSayNothing)
-{
-    List<char> out;
-    int key[10] = {};
-    print_all = 1;
-    getdiff_GPonProfileOltPppoeIa(nullptr, &diff.after, key, out);
-    getdiff_GPonProfileOltPppoeIa(&diff.before, nullptr, key, out);
-    print_all = 0;
-    EXPECT_EQ(out.size(), 0);
 }
 
 } // namespace

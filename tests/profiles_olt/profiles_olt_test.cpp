@@ -30,17 +30,6 @@ void name(Profile& profile, const std::string& text)
     put(profile.name, text);
 }
 
-TEST_F(OltProfiles, EqualContainersSayNothingAndLeaveTheKey)
-{
-    name(orig.vlan[3], "v");
-    cfg = orig;
-    diff.key[0] = 7;
-    diff.key[1] = 9;
-    EXPECT_EQ(elements(), Elements{});
-    EXPECT_EQ(diff.key[0], 7);
-    EXPECT_EQ(diff.key[1], 9);
-}
-
 TEST_F(OltProfiles, OneChangedProfileIsTheOnlyOneShown)
 {
     for (int slot = 0; slot < 32; ++slot) {
@@ -124,17 +113,6 @@ TEST_F(OltProfiles, FullDumpOfFreeSlotsSaysNothing)
     diff.all = 1;
     EXPECT_EQ(elements(), Elements{});
     EXPECT_EQ(diff.key[0], 31);
-}
-
-TEST_F(OltProfiles, NullRecordsSayNothing)
-{
-    List<char> out;
-    int key[10] = {};
-    print_all = 1;
-    getdiff_GPonProfilesOlt(nullptr, &cfg, key, out);
-    getdiff_GPonProfilesOlt(&orig, nullptr, key, out);
-    print_all = 0;
-    EXPECT_EQ(out.size(), 0);
 }
 
 } // namespace

@@ -21,16 +21,6 @@ TEST(VlanEthertypes, UplinkNamesItsDirectionAndProfile)
                                    "uplink insertion cvlan-ethertype \"0x0001\"\n");
 }
 
-TEST(VlanEthertypes, EqualOrNullRecordsSayNothing)
-{
-    Diff ethertypes{getdiff_GVlanGeneralCfg};
-    EXPECT_EQ(ethertypes.elements(), Elements{});
-    List<char> out;
-    EXPECT_FALSE(getdiff_GVlanGeneralCfg(nullptr, &ethertypes.after, ethertypes.key, out));
-    EXPECT_FALSE(getdiff_GVlanGeneralCfg(&ethertypes.before, nullptr, ethertypes.key, out));
-    EXPECT_EQ(out.size(), 0);
-}
-
 TEST(VlanEthertypes, DownlinkBeginsWithItsDirection)
 {
     Diff ethertypes{getdiff_GVlanGeneralCfg};
@@ -59,36 +49,6 @@ class VlanProfile : public OltProfileTest<GPonProfileOltVlan> {
   protected:
     VlanProfile() : OltProfileTest(getdiff_GPonProfileOltVlan, &GPonProfilesOlt::vlan) {}
 };
-
-TEST_F(VlanProfile, FreeOnBothSidesSaysNothing)
-{
-    diff.before.exist = diff.after.exist = 0;
-    put(diff.after.name, "hotel");
-    put(diff.after.description, "main");
-    diff.after.config_general[1].extended_svlan_type = 0x8100;
-    for (const int all : {0, 1}) {
-        diff.all = all;
-        EXPECT_EQ(elements(), Elements{});
-        EXPECT_EQ(diff.key[1], 9);
-    }
-}
-
-TEST_F(VlanProfile, EqualRecordsSayNothingAndLeaveTheKey)
-{
-    EXPECT_EQ(elements(), Elements{});
-    EXPECT_EQ(diff.key[1], 9);
-}
-
-TEST_F(VlanProfile, NullRecordsSayNothing)
-{
-    List<char> out;
-    int key[10] = {};
-    print_all = 1;
-    getdiff_GPonProfileOltVlan(nullptr, &diff.after, key, out);
-    getdiff_GPonProfileOltVlan(&diff.before, nullptr, key, out);
-    print_all = 0;
-    EXPECT_EQ(out.size(), 0);
-}
 
 TEST_F(VlanProfile, NewIsEnteredAndNothingMore)
 {

@@ -72,11 +72,6 @@ TEST_F(Sla, PrintAllForcesWhateverPartIsWanted)
     }
 }
 
-TEST_F(Sla, EqualRecordsSayNothing)
-{
-    EXPECT_EQ(diff.elements(), Elements{});
-}
-
 TEST(Dba, ShowsTheSla)
 {
     Diff<GPonOntDba> dba{getdiff_GPonOntDba};

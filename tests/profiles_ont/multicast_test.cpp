@@ -143,14 +143,6 @@ TEST_F(Multicast, MldImmediateLeaveSwitchedOff)
     EXPECT_EQ(mld.script(), "no mld immediate-leave\n");
 }
 
-TEST_F(Multicast, EqualSettingsSayNothingAndLeaveTheKey)
-{
-    EXPECT_EQ(igmp.elements(), Elements{});
-    EXPECT_EQ(igmp.key[1], 11);
-    EXPECT_EQ(mld.elements(), Elements{});
-    EXPECT_EQ(mld.key[1], 11);
-}
-
 TEST_F(Multicast, EachFieldOfAnEntryAlone)
 {
     expect_each_alone<Entry>(
@@ -210,12 +202,6 @@ TEST_F(Multicast, EveryFieldOfAnEntryInOrder)
                                  "mld multicast dynamic-entry   11 preview-repeat-time \"2\"\n"
                                  "mld multicast dynamic-entry   11 preview-repeat-count \"3\"\n"
                                  "mld multicast dynamic-entry   11 preview-reset-time \"4\"\n");
-}
-
-TEST_F(Multicast, EqualEntriesSayNothing)
-{
-    EXPECT_EQ(entry.elements(), Elements{});
-    EXPECT_EQ(entry_v6.elements(), Elements{});
 }
 
 TEST_F(Multicast, DumpRemovesWhatIsTheSameInAnEntryAndShowsWhatIsNew)

@@ -119,12 +119,6 @@ TEST(MulticastClient, NullPrefixIsTheEmptyOne)
     EXPECT_EQ(client.script(), " max groups \"1\"\n");
 }
 
-TEST(MulticastClient, EqualSettingsSayNothing)
-{
-    Part<Client> client{getdiff_GPonMulticastClientPortSettings, "veip"};
-    EXPECT_EQ(client.elements(), Elements{});
-}
-
 // --------------------------------------------------------------------------------------------------------- UNI shapers
 
 TEST(UniShaping, EveryFieldInOrder)
@@ -185,14 +179,6 @@ TEST(UniShaping, DumpShowsEveryField)
     EXPECT_EQ(upstream.script(), "no port    2 shaper upstream\n"
                                  "port    2 shaper upstream commited-rate \"0\"\n"
                                  "port    2 shaper upstream peak-rate \"0\"\n");
-}
-
-TEST(UniShaping, EqualShapersSayNothing)
-{
-    Part<Shaping> downstream{getdiff_GPonUniShapingDownstream};
-    EXPECT_EQ(downstream.elements(), Elements{});
-    Part<Shaping> upstream{getdiff_GPonUniShapingUpstream};
-    EXPECT_EQ(upstream.elements(), Elements{});
 }
 
 // ----------------------------------------------------------------------------------------------------------- UNI ports
@@ -292,12 +278,6 @@ TEST(UniPort, DumpShowsEveryFieldWhateverPartIsWanted)
     }
 }
 
-TEST(UniPort, EqualPortsSayNothing)
-{
-    Part<Uni> port{getdiff_GPonUniPort};
-    EXPECT_EQ(port.elements(), Elements{});
-}
-
 // ---------------------------------------------------------------------------------------------------------------- VEIP
 
 TEST(VeipPort, EachFieldAlone)
@@ -334,12 +314,6 @@ TEST(VeipPort, DumpShowsEveryField)
                              "veip downstream tag-control pass\n"
                              "veip max groups \"0\"\n"
                              "veip max bandwidth \"0\"\n");
-}
-
-TEST(VeipPort, EqualPortsSayNothing)
-{
-    Part<Veip> veip{getdiff_GPonVeipPort};
-    EXPECT_EQ(veip.elements(), Elements{});
 }
 
 // ------------------------------------------------------------------------------------------------------------- profile
@@ -398,17 +372,6 @@ TEST_F(PortsProfile, WalkOfThePortsLeavesItsLastIndex)
     diff.after.revision = 9;
     EXPECT_EQ(diff.elements(), Elements{});
     EXPECT_EQ(diff.key[1], 3);
-}
-
-TEST_F(PortsProfile, EqualAndFreeProfilesLeaveTheKey)
-{
-    EXPECT_EQ(diff.elements(), Elements{});
-    EXPECT_EQ(diff.key[1], 9);
-    diff.before = Profile{};
-    diff.after = Profile{};
-    diff.after.port[0].speed = 1;
-    EXPECT_EQ(diff.elements(), Elements{});
-    EXPECT_EQ(diff.key[1], 9);
 }
 
 TEST_F(PortsProfile, DumpShowsEveryPartOfEqualProfiles)

@@ -80,13 +80,6 @@ TEST(Downstream, OnePolicerOnAndOff)
                                   });
 }
 
-TEST(Downstream, EqualPartsLeaveTheKey)
-{
-    Part<Downstream> downstream{getdiff_GPonOntShapingDownstream};
-    EXPECT_EQ(downstream.elements(), Elements{});
-    EXPECT_EQ(downstream.key[1], 3);
-}
-
 std::string downstream_dump()
 {
     std::string dump = "no downstream one-policer\n";
@@ -381,16 +374,6 @@ TEST(StormControl, FirstFailureEndsTheWork)
         }
     }
     FAIL() << "no run succeeded";
-}
-
-TEST(StormControl, NullRecordsSayNothing)
-{
-    Storm storm{};
-    int key[10] = {};
-    List<char> list;
-    EXPECT_EQ(getdiff_GPonOntStormControl(nullptr, &storm, key, list), 0);
-    EXPECT_EQ(getdiff_GPonOntStormControl(&storm, nullptr, key, list), 0);
-    EXPECT_EQ(list.size(), 0);
 }
 
 // ------------------------------------------------------------------------------------------------------------- profile

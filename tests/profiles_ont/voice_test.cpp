@@ -122,9 +122,4 @@ TEST_F(VoiceProfile, TextsThatFillTheirArrays)
     EXPECT_EQ(diff.script(), expected);
 }
 
-TEST_F(VoiceProfile, EqualSipRecordsSayNothing)
-{
-    EXPECT_EQ(sip.elements(), Elements{});
-}
-
 } // namespace

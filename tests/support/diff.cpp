@@ -49,7 +49,7 @@ class Placed {
 
 } // namespace
 
-Elements DiffRun::run(const Function& function, void* before, void* after, std::size_t size)
+Elements DiffRun::run(const AnyDiff& diff, void* before, void* after, std::size_t size)
 {
     Elements results[2];
     int keys[2][10];
@@ -62,7 +62,7 @@ Elements DiffRun::run(const Function& function, void* before, void* after, std::
         print_all = all;
         print_common = common;
         List<char> list;
-        function(lhs.get(), rhs.get(), keys[odd], list);
+        EXPECT_EQ(diff(lhs.get(), rhs.get(), keys[odd], list), 0);
         results[odd] = take_elements(list);
         EXPECT_FALSE(lhs.differs_from(before)) << "the old record was changed";
         if (!may_sort) {

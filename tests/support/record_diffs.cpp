@@ -1,7 +1,10 @@
 #include "tests/support/record_diffs.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <cstring>
+#include <type_traits>
+#include <utility>
 
 namespace {
 
@@ -20,50 +23,52 @@ void keep_existing(Object (&array)[N], int objects)
     keep(array, objects);
 }
 
-char prefix[] = "ip ssh";
-char field[] = "sla_data";
-
-} // namespace
-
-void fill(GCfg& configuration, int objects)
+template <class R>
+auto revision_of(int) -> decltype(R::revision, Bytes{})
 {
-    std::memset(&configuration, 'a', sizeof configuration);
-    keep_existing(configuration.system.user, objects);
-    GSystemServices& services = configuration.system.services;
-    keep_existing(services.source_guard.bind, objects);
-    keep(services.source_guard.vid, objects);
-    keep(services.routing.route, objects);
-    GPonCfg& pon = configuration.pon;
-    keep_existing(pon.ont, objects);
-    for (GVlanTagEx& vlan : pon.network.terminal_vlan)
-        vlan.exists = 1;
-    keep(pon.network.terminal_vlan, objects);
-    keep_existing(pon.profiles_olt.vlan, objects);
-    keep_existing(pon.profiles_olt.address_table, objects);
-    for (GPonProfileOltAddressTable& table : pon.profiles_olt.address_table)
-        keep(table.svlan_config, objects);
-    keep_existing(pon.profiles_olt.pppoe_ia, objects);
-    keep_existing(pon.profiles_olt.dhcp_ra, objects);
-    keep_existing(pon.profiles_olt.dhcpv6_ra, objects);
-    keep_existing(pon.profiles_ont.shaping, objects);
-    keep_existing(pon.profiles_ont.cross_connect, objects);
-    keep_existing(pon.profiles_ont.alloc, objects);
-    keep_existing(pon.profiles_ont.ports, objects);
-    keep_existing(pon.profiles_ont.management, objects);
-    keep_existing(pon.profiles_ont.template_ont, objects);
-    keep_existing(pon.profiles_ont.voice, objects);
+    return {offsetof(R, revision), sizeof(R::revision)};
+}
+template <class R>
+Bytes revision_of(long)
+{
+    return {};
+}
+
+template <class R>
+auto exist_of(int) -> decltype(R::exist, Bytes{})
+{
+    return {offsetof(R, exist), sizeof(R::exist)};
+}
+template <class R>
+auto exist_of(int) -> decltype(R::exists, Bytes{})
+{
+    return {offsetof(R, exists), sizeof(R::exists)};
+}
+template <class R>
+Bytes exist_of(long)
+{
+    return {};
+}
+
+template <class Record, class Result>
+RecordDiff on(const char* name, std::size_t offset, Result (*function)(Record*, Record*, int*, List<char>&))
+{
+    return {name, {offset, sizeof(Record)}, revision_of<Record>(0), exist_of<Record>(0), any_diff(function)};
+}
+
+template <class Record, class Result, class Prefix>
+RecordDiff on(const char* name, std::size_t offset, Result (*function)(Prefix, Record*, Record*, int*, List<char>&),
+              const char* prefix)
+{
+    return {name, {offset, sizeof(Record)}, revision_of<Record>(0), exist_of<Record>(0), any_diff(function, prefix)};
 }
 
 #define DIFF(function, path)                                                                                           \
-    {                                                                                                                  \
-#function,                                                                                                     \
-            [](GCfg & orig, GCfg & cfg, int* key, List <char>& out) { function(&orig.path, &cfg.path, key, out); }     \
-    }
+    on<std::remove_reference_t<decltype(std::declval<GCfg&>().path)>>(#function, offsetof(GCfg, path), function)
 #define DIFF_WITH(function, text, path)                                                                                \
-    {                                                                                                                  \
-#function, [](GCfg & orig, GCfg & cfg, int* key,                                                               \
-                      List <char>& out) { function(text, &orig.path, &cfg.path, key, out); }                           \
-    }
+    on<std::remove_reference_t<decltype(std::declval<GCfg&>().path)>>(#function, offsetof(GCfg, path), function, text)
+
+} // namespace
 
 const std::vector<RecordDiff>& record_diffs()
 {
@@ -76,7 +81,7 @@ const std::vector<RecordDiff>& record_diffs()
         DIFF(getdiff_GSystemCommonSettings, system.settings),
         DIFF(getdiff_GSystemUser, system.user[1]),
         DIFF(getdiff_GSystemUserGroup, system.user[1].group[1]),
-        DIFF_WITH(getdiff_GSystemServiceAllow, prefix, system.services.ssh.allow[1]),
+        DIFF_WITH(getdiff_GSystemServiceAllow, "ip ssh", system.services.ssh.allow[1]),
         DIFF(getdiff_GSystemHttpCfg, system.services.http),
         DIFF(getdiff_GSystemHttpsCfg, system.services.https),
         DIFF(getdiff_GSystemTelnetCfg, system.services.telnet),
@@ -165,10 +170,45 @@ const std::vector<RecordDiff>& record_diffs()
         DIFF(getdiff_GPonOntStormControl, pon.profiles_ont.shaping[1].upstream.storm_control),
         DIFF(getdiff_GPonProfileOntAlloc, pon.profiles_ont.alloc[1]),
         DIFF(getdiff_GPonOntDba, pon.profiles_ont.alloc[1].dba),
-        DIFF_WITH(getdiff_GZorvanSLA, field, pon.profiles_ont.alloc[1].dba.sla_data),
+        DIFF_WITH(getdiff_GZorvanSLA, "sla_data", pon.profiles_ont.alloc[1].dba.sla_data),
 
         DIFF(getdiff_GPonCfg, pon),
-        {"getdiff_GCfg", [](GCfg& orig, GCfg& cfg, int* key, List<char>& out) { getdiff_GCfg(&orig, &cfg, key, out); }},
+        on<GCfg>("getdiff_GCfg", 0, getdiff_GCfg),
     };
     return all;
+}
+
+int RecordDiff::run(GCfg& orig, GCfg& cfg, int* key, List<char>& out) const
+{
+    return diff(reinterpret_cast<char*>(&orig) + record.offset, reinterpret_cast<char*>(&cfg) + record.offset, key,
+                out);
+}
+
+void fill(GCfg& configuration, int objects)
+{
+    std::memset(&configuration, 'a', sizeof configuration);
+    keep_existing(configuration.system.user, objects);
+    GSystemServices& services = configuration.system.services;
+    keep_existing(services.source_guard.bind, objects);
+    keep(services.source_guard.vid, objects);
+    keep(services.routing.route, objects);
+    GPonCfg& pon = configuration.pon;
+    keep_existing(pon.ont, objects);
+    for (GVlanTagEx& vlan : pon.network.terminal_vlan)
+        vlan.exists = 1;
+    keep(pon.network.terminal_vlan, objects);
+    keep_existing(pon.profiles_olt.vlan, objects);
+    keep_existing(pon.profiles_olt.address_table, objects);
+    for (GPonProfileOltAddressTable& table : pon.profiles_olt.address_table)
+        keep(table.svlan_config, objects);
+    keep_existing(pon.profiles_olt.pppoe_ia, objects);
+    keep_existing(pon.profiles_olt.dhcp_ra, objects);
+    keep_existing(pon.profiles_olt.dhcpv6_ra, objects);
+    keep_existing(pon.profiles_ont.shaping, objects);
+    keep_existing(pon.profiles_ont.cross_connect, objects);
+    keep_existing(pon.profiles_ont.alloc, objects);
+    keep_existing(pon.profiles_ont.ports, objects);
+    keep_existing(pon.profiles_ont.management, objects);
+    keep_existing(pon.profiles_ont.template_ont, objects);
+    keep_existing(pon.profiles_ont.voice, objects);
 }

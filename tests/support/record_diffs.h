@@ -4,13 +4,24 @@
 /// @file
 /// Every exported record diff by its name, on its record in two configurations: the element 1 of each array.
 
-#include "pon/command_file_generator.h"
+#include "tests/support/diff.h"
 
+#include <cstddef>
 #include <vector>
+
+struct Bytes {
+    std::size_t offset = 0;
+    std::size_t size = 0;
+};
 
 struct RecordDiff {
     const char* name;
-    void (*run)(GCfg& orig, GCfg& cfg, int* key, List<char>& out);
+    Bytes record;   ///< in the configuration
+    Bytes revision; ///< in the record; none in some
+    Bytes exist;    ///< the same: the flag that says whether there is such an object
+    AnyDiff diff;
+
+    int run(GCfg& orig, GCfg& cfg, int* key, List<char>& out) const;
 };
 
 const std::vector<RecordDiff>& record_diffs();

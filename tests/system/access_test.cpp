@@ -88,14 +88,6 @@ TEST(Http, ChangedEntriesShowTheirIndex)
               (Elements{"configure terminal", "http allow ip    0 mask \"24\"", "", "http allow ip   15 mask \"0\""}));
 }
 
-TEST(Http, EqualRecordsLeaveTheKeyAlone)
-{
-    Diff http{getdiff_GSystemHttpCfg};
-    http.key[0] = 5;
-    EXPECT_EQ(http.elements(), Elements{});
-    EXPECT_EQ(http.key[0], 5);
-}
-
 TEST(Http, PrintAllShowsEveryEntry)
 {
     Diff http{getdiff_GSystemHttpCfg};
@@ -204,14 +196,6 @@ TEST(Telnet, PrintAllShowsSwitchesAndEveryEntry)
     EXPECT_EQ(telnet.key[0], 15);
 }
 
-TEST(Telnet, EqualRecordsLeaveTheKeyAlone)
-{
-    Diff telnet{getdiff_GSystemTelnetCfg};
-    telnet.key[0] = 5;
-    EXPECT_EQ(telnet.elements(), Elements{});
-    EXPECT_EQ(telnet.key[0], 5);
-}
-
 TEST(Ssh, SwitchedOn)
 {
     Diff ssh{getdiff_GSystemSshCfg};
@@ -227,13 +211,6 @@ TEST(Ssh, SwitchedOff)
     ssh.before.enabled = 1;
     ssh.before.access_control = 1;
     EXPECT_EQ(ssh.elements(), (Elements{"configure terminal", "no ip ssh enable", "", "no ip ssh access-control"}));
-}
-
-TEST(Ssh, RevisionAloneSaysNothing)
-{
-    Diff ssh{getdiff_GSystemSshCfg};
-    ssh.after.revision = 1;
-    EXPECT_EQ(ssh.elements(), Elements{});
 }
 
 TEST(Ssh, MaskAloneIsOneCommandWithTheAddressOfItsEntry)

@@ -58,11 +58,10 @@ TEST(AlarmType, ValuesWithoutAWordAreTheRegistrysToName)
                               "alarm dummy out unknown\n");
 }
 
-TEST(AlarmType, TypeItselfAndRevisionHaveNoCommand)
+TEST(AlarmType, TypeItselfHasNoCommand)
 {
     Diff alarm{getdiff_GSystemAlarmTypeCfg};
     alarm.after.type = ont_storm_detected;
-    alarm.after.revision = 1;
     EXPECT_EQ(alarm.elements(), Elements{});
 }
 
@@ -242,14 +241,6 @@ TEST(Alarms, ThresholdsThatChangedWithoutACommand)
     alarm.after.cfg.load_average[1] = 1;
     EXPECT_EQ(alarm.elements(), Elements{});
     EXPECT_EQ(alarm.key[0], 45);
-}
-
-TEST(Alarms, EqualRecordsLeaveTheKeyAlone)
-{
-    Diff alarm{getdiff_GSystemAlarmCfg};
-    alarm.key[0] = 5;
-    EXPECT_EQ(alarm.elements(), Elements{});
-    EXPECT_EQ(alarm.key[0], 5);
 }
 
 TEST(Alarms, PrintAllWithoutTheCommonSettingsForcesNothing)

@@ -70,13 +70,6 @@ TEST(Backup, EqualRecordUnderPrintAllShowsEveryField)
     }
 }
 
-TEST(Backup, RevisionAloneSaysNothing)
-{
-    Diff backup{getdiff_GSystemTftpCfg};
-    backup.after.revision = 1;
-    EXPECT_EQ(backup.elements(), Elements{});
-}
-
 TEST(Autosave, EveryFieldInOrder)
 {
     Diff autosave{getdiff_GSystemConfigCfg};

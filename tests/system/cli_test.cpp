@@ -23,13 +23,6 @@ TEST(Cli, EachFieldAlone)
     EXPECT_EQ(sessions.elements(), (Elements{"configure terminal", "cli max-sessions \"5\""}));
 }
 
-TEST(Cli, RevisionAloneSaysNothing)
-{
-    Diff cli{getdiff_GSystemCliCfg};
-    cli.after.revision = 1;
-    EXPECT_EQ(cli.elements(), Elements{});
-}
-
 TEST(Cli, EqualRecordUnderPrintAllShowsEveryField)
 {
     for (const int common : {0, 1, 2}) {

@@ -97,14 +97,6 @@ TEST(SubmoduleLog, LevelAloneHasACommand)
     EXPECT_EQ(log.elements(), (Elements{"configure terminal", "logging module pmchal-gpon-port loglevel \"debug\""}));
 }
 
-TEST(SubmoduleLog, EqualRecordsLeaveTheKeyAlone)
-{
-    Diff log{getdiff_GSystemLogCfg};
-    log.key[0] = 5;
-    EXPECT_EQ(log.elements(), Elements{});
-    EXPECT_EQ(log.key[0], 5);
-}
-
 TEST(SubmoduleLog, PrintAllShowsEverySubmodule)
 {
     Diff log{getdiff_GSystemLogCfg};

@@ -52,10 +52,9 @@ TEST(Network, EqualRecordUnderPrintAllShowsEveryField)
                                 "management dscp \"0\"\n");
 }
 
-TEST(Network, AcsFieldsAndRevisionHaveNoCommandHere)
+TEST(Network, AcsFieldsHaveNoCommandHere)
 {
     Diff network{getdiff_GSystemNetworkCfg};
-    network.after.revision = 5;
     put(network.after.ACSIp, {198, 51, 100, 1});
     network.after.ACSVid = 9;
     EXPECT_EQ(network.elements(), Elements{});
@@ -94,20 +93,6 @@ TEST(Network, ManagementBlockIsTheSameWork)
     management.after.ACSVid = 9;
     management.after.dscp = 1;
     EXPECT_EQ(management.script(), "configure terminal\nhostname \"olt-17\"\nmanagement dscp \"1\"\n");
-}
-
-TEST(Network, NullRecordsSayNothing)
-{
-    List<char> out;
-    int key[10] = {};
-    GSystemNetworkCfg record{};
-    print_all = 1;
-    getdiff_GSystemNetworkCfg(nullptr, &record, key, out);
-    getdiff_GSystemNetworkCfg(&record, nullptr, key, out);
-    getdiff_GSystemAcsMgmtCfg(nullptr, &record, key, out);
-    getdiff_GSystemAcsMgmtCfg(&record, nullptr, key, out);
-    print_all = 0;
-    EXPECT_EQ(out.size(), 0);
 }
 
 TEST(Acs, EveryField)

@@ -64,11 +64,4 @@ TEST(Ntp, EqualRecordUnderPrintAllShowsEveryField)
     }
 }
 
-TEST(Ntp, RevisionAloneSaysNothing)
-{
-    Diff ntp{getdiff_GSystemNtpCfg};
-    ntp.after.revision = 1;
-    EXPECT_EQ(ntp.elements(), Elements{});
-}
-
 } // namespace

@@ -76,19 +76,6 @@ TEST_F(Routing, PrintAllForcesNoRoute)
     EXPECT_EQ(script(), "configure terminal\nip route prefix 10.5.0.0 mask \"8\" gateway \"192.0.2.5\"\n");
 }
 
-TEST_F(Routing, EqualRecordsLeaveTheKeyAlone)
-{
-    diff.key[0] = 5;
-    EXPECT_EQ(script(), "");
-    EXPECT_EQ(diff.key[0], 5);
-}
-
-TEST_F(Routing, RevisionAloneSaysNothing)
-{
-    diff.after.revision = 1;
-    EXPECT_EQ(script(), "");
-}
-
 TEST_F(Routing, SingleRouteIsForcedByPrintAll)
 {
     session.open();

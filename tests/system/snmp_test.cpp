@@ -155,14 +155,6 @@ TEST(Snmp, ConfigurationTextsOfTheAgentHaveNoCommand)
     EXPECT_EQ(snmp.key[0], 17);
 }
 
-TEST(Snmp, EqualRecordsLeaveTheKeyAlone)
-{
-    Diff snmp{getdiff_GSystemSnmpCfg};
-    snmp.key[0] = 5;
-    EXPECT_EQ(snmp.elements(), Elements{});
-    EXPECT_EQ(snmp.key[0], 5);
-}
-
 TEST(Snmp, EqualRecordUnderPrintAllShowsAllOfIt)
 {
     Session session;

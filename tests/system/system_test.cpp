@@ -82,14 +82,6 @@ TEST(System, PrintAllForcesTheSettingsThatDifferByTheirOwnRule)
     EXPECT_EQ(system.script(), "configure terminal\ncli ont-sn-format \"pretty\"\n");
 }
 
-TEST(System, EqualRecordsLeaveTheKeyAlone)
-{
-    Diff system{getdiff_GSystemCfg};
-    system.key[0] = 5;
-    EXPECT_EQ(system.elements(), Elements{});
-    EXPECT_EQ(system.key[0], 5);
-}
-
 TEST(System, ServicesWithoutCommands)
 {
     const auto changed = [](void (*change)(GSystemServices&)) {
@@ -303,68 +295,6 @@ TEST(Web, SessionTimeoutHasNoCommand)
     EXPECT_EQ(web.elements(), Elements{});
     web.all = 1;
     EXPECT_EQ(web.elements(), Elements{});
-}
-
-template <class Record>
-void expect_nothing_about_null(bool (*diff)(Record*, Record*, int*, List<char>&))
-{
-    const auto record = std::make_unique<Record>();
-    List<char> out;
-    int key[10] = {5, 5};
-    print_all = 1;
-    EXPECT_FALSE(diff(nullptr, record.get(), key, out));
-    EXPECT_FALSE(diff(record.get(), nullptr, key, out));
-    EXPECT_FALSE(diff(nullptr, nullptr, key, out));
-    print_all = 0;
-    EXPECT_EQ(out.size(), 0);
-    EXPECT_EQ(key[0], 5);
-    EXPECT_EQ(key[1], 5);
-}
-
-TEST(System, NullRecordsSayNothing)
-{
-    expect_nothing_about_null(getdiff_GSystemCfg);
-    expect_nothing_about_null(getdiff_GSystemServices);
-    expect_nothing_about_null(getdiff_GSystemUser);
-    expect_nothing_about_null(getdiff_GSystemUserGroup);
-    expect_nothing_about_null(getdiff_GSystemHttpCfg);
-    expect_nothing_about_null(getdiff_GSystemHttpsCfg);
-    expect_nothing_about_null(getdiff_GSystemTelnetCfg);
-    expect_nothing_about_null(getdiff_GSystemSshCfg);
-    expect_nothing_about_null(getdiff_GSystemRoutingCfg);
-    expect_nothing_about_null(getdiff_GSystemRouteCfg);
-    expect_nothing_about_null(getdiff_GSystemSourceGuardCfg);
-    expect_nothing_about_null(getdiff_GSystemSourceGuardBindCfg);
-    expect_nothing_about_null(getdiff_GSystemSourceGuardCfgVlanAllowed);
-    expect_nothing_about_null(getdiff_GSystemSnmpCfg);
-    expect_nothing_about_null(getdiff_GSystemSnmpTrap);
-    expect_nothing_about_null(getdiff_GSystemSnmpAlias);
-    expect_nothing_about_null(getdiff_GSystemSyslogCfg);
-    expect_nothing_about_null(getdiff_GSystemLogDestCfg);
-    expect_nothing_about_null(getdiff_GSystemLogCfg);
-    expect_nothing_about_null(getdiff_GSubmoduleLogCfg);
-    expect_nothing_about_null(getdiff_GSystemNtpCfg);
-    expect_nothing_about_null(getdiff_GSystemAlarmCfg);
-    expect_nothing_about_null(getdiff_GSystemAlarmTypeCfg);
-    expect_nothing_about_null(getdiff_GSystemAlarmSystemCfg);
-    expect_nothing_about_null(getdiff_GSystemWebCfg);
-    expect_nothing_about_null(getdiff_GSystemCliCfg);
-    expect_nothing_about_null(getdiff_GCustomOntListShowing);
-    expect_nothing_about_null(getdiff_GSystemTftpCfg);
-    expect_nothing_about_null(getdiff_GSystemConfigCfg);
-}
-
-TEST(System, NullAllowEntriesSayNothing)
-{
-    GSystemServiceAllow entry{};
-    char prefix[] = "ip ssh";
-    List<char> out;
-    int key[10] = {};
-    print_all = 1;
-    EXPECT_FALSE(getdiff_GSystemServiceAllow(prefix, nullptr, &entry, key, out));
-    EXPECT_FALSE(getdiff_GSystemServiceAllow(prefix, &entry, nullptr, key, out));
-    print_all = 0;
-    EXPECT_EQ(out.size(), 0);
 }
 
 } // namespace

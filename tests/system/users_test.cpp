@@ -45,20 +45,6 @@ TEST_F(Users, NewPrivilege)
     EXPECT_EQ(elements(), (Elements{"configure terminal", "user \"admin\" privilege \"255\""}));
 }
 
-TEST_F(Users, RevisionAloneSaysNothing)
-{
-    diff.after.revision = 9;
-    EXPECT_EQ(elements(), Elements{});
-}
-
-TEST_F(Users, EqualRecordsLeaveTheKeyAlone)
-{
-    diff.key[1] = 7;
-    EXPECT_EQ(elements(), Elements{});
-    EXPECT_EQ(diff.key[0], 3);
-    EXPECT_EQ(diff.key[1], 7);
-}
-
 TEST_F(Users, NewUserIsCreatedByItsPassword)
 {
     diff.before = GSystemUser{};
@@ -165,17 +151,6 @@ TEST_F(Users, RemovedUserWhoseNameFillsItsArray)
     put(diff.before.password, "not-part-of-it");
     diff.after.exist = 0;
     EXPECT_EQ(elements(), Elements{"no user \"" + std::string(32, 'n') + "\""});
-}
-
-TEST_F(Users, UnusedSlotSaysNothing)
-{
-    diff.before.exist = diff.after.exist = 0;
-    put(diff.after.password, "left over");
-    diff.after.priority = 1;
-    EXPECT_EQ(elements(), Elements{});
-    diff.all = 1;
-    EXPECT_EQ(diff.elements(), Elements{});
-    EXPECT_EQ(diff.key[1], 0);
 }
 
 TEST_F(Users, PrintAllShowsPasswordAndPrivilege)
