@@ -7,7 +7,7 @@ program=$1
 source=$(cd "$(dirname "$0")/.." && pwd)
 
 "$source/scripts/man-page" "$program" | diff -u "$source/docs/pondiff.1" - || {
-    echo "To renew it: scripts/man-page PROGRAM > docs/pondiff.1" >&2
+    echo "To renew it: scripts/man-page ${program#"$source"/} > docs/pondiff.1" >&2
     exit 1
 }
 if command -v groff >/dev/null; then

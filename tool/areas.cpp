@@ -187,39 +187,57 @@ Area terminal_vlans(std::string_view /*argument*/)
             [](GCfg& /*orig*/, GCfg& /*cfg*/) { return GetTerminalVlanHeaders(); }};
 }
 
-/// A row of the list below: an area by its name, or a family of them, whose members an argument tells apart.
-struct Family {
+std::vector<std::string> port_numbers()
+{
+    std::vector<std::string> numbers;
+    for (int i = 0; i < GCFG_GPON_PORTS; ++i) {
+        numbers.push_back(std::to_string(i));
+    }
+    return numbers;
+}
+
+/// The names of the elements of a table.
+template <const auto& table>
+std::vector<std::string> all_names()
+{
+    const std::vector<std::string_view> names = names_of(table);
+    return {names.begin(), names.end()};
+}
+
+/// A row of the list below: an area by its name, or areas of one kind, which an argument tells apart.
+struct AreaKind {
     const char* name;
     const char* argument; ///< what stands behind a colon; null where there is none
     const char* shows;
     Area (*area)(std::string_view argument);
+    std::vector<std::string> (*arguments)() = nullptr; ///< those that a shell completes
 };
 
-constexpr Family families[] = {
+constexpr AreaKind area_kinds[] = {
     {"system", nullptr, "The system part", system_part},
     {"pon", nullptr, "The PON part: network, profiles, OLT, ports and ONTs", pon_part},
     {"ont", "INDEX", "One ONT, 0 to 531; ont:1/6, port and id, is ont:70", ont},
-    {"port", "N", "One GPON port, 0 to 7", port},
+    {"port", "N", "One GPON port, 0 to 7", port, port_numbers},
     {"profiles-olt", nullptr, "The OLT profiles", profiles_olt},
     {"profiles-ont", nullptr, "The ONT profiles and the templates", profiles_ont},
-    {"profile", "KIND", "The profiles of a kind that differ", profile},
+    {"profile", "KIND", "The profiles of a kind that differ", profile, all_names<profile_kinds>},
     {"profile", "KIND:ID", "The profile of a kind in the slot ID", profile},
-    {"block", "NAME", "A block of settings", block},
+    {"block", "NAME", "A block of settings", block, all_names<blocks>},
     {"alarm", nullptr, "The alarms", alarm},
     {"routes", nullptr, "The static routes, which the whole diff leaves out", routes},
     {"terminal-vlans", nullptr, "A line that declares each terminal VLAN of CFG by name", terminal_vlans},
 };
 
-std::string written(const Family& family)
+std::string written(const AreaKind& kind)
 {
-    return family.argument ? fmt::format("{}:{}", family.name, family.argument) : family.name;
+    return kind.argument ? fmt::format("{}:{}", kind.name, kind.argument) : kind.name;
 }
 
-std::string list_of_families()
+std::string list_of_kinds()
 {
     std::vector<std::string> names;
-    for (const Family& family : families)
-        names.push_back(written(family));
+    for (const AreaKind& kind : area_kinds)
+        names.push_back(written(kind));
     return enumerated({names.begin(), names.end()});
 }
 
@@ -259,20 +277,38 @@ Area whole_configuration(int common)
 Area area_named(const std::string& name)
 {
     const std::size_t colon = name.find(':');
-    const std::string_view family_name = std::string_view(name).substr(0, colon);
+    const std::string_view kind_name = std::string_view(name).substr(0, colon);
     const std::string_view argument = colon == name.npos ? "" : std::string_view(name).substr(colon + 1);
-    for (const Family& family : families)
-        if (family.name == family_name && (family.argument || colon == name.npos))
-            return family.area(argument);
+    for (const AreaKind& kind : area_kinds)
+        if (kind.name == kind_name && (kind.argument || colon == name.npos))
+            return kind.area(argument);
     throw UnknownArea(
-        fmt::format("no such area{}; there are {}", suggestion(family_name, names_of(families)), list_of_families()));
+        fmt::format("no such area{}; there are {}", suggestion(kind_name, names_of(area_kinds)), list_of_kinds()));
+}
+
+std::string area_candidates()
+{
+    std::string candidates;
+    std::string_view previous;
+    for (const AreaKind& kind : area_kinds) {
+        if (kind.name != previous) {
+            candidates += fmt::format("{}{}\t{}\n", kind.name, kind.argument ? ":" : "", kind.shows);
+        }
+        if (kind.arguments) {
+            for (const std::string& argument : kind.arguments()) {
+                candidates += fmt::format("{}:{}\t\n", kind.name, argument);
+            }
+        }
+        previous = kind.name;
+    }
+    return candidates;
 }
 
 std::string list_of_areas()
 {
     std::string text;
-    for (const Family& family : families)
-        text += fmt::format("  {:<15}  {}\n", written(family), family.shows);
+    for (const AreaKind& kind : area_kinds)
+        text += fmt::format("  {:<15}  {}\n", written(kind), kind.shows);
     return text + fmt::format("\nKinds of profiles:\n{}\n\nBlocks of settings:\n{}\n", wrapped(names_of(profile_kinds)),
                               wrapped(names_of(blocks)));
 }

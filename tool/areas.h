@@ -28,6 +28,9 @@ Area whole_configuration(int common);
 /// @throws UnknownArea
 Area area_named(const std::string& name);
 
+/// The names of the areas for a shell to complete, as `completed_by` takes them.
+std::string area_candidates();
+
 /// The names of the areas and what they show, for a manual page: a line each, indented.
 std::string list_of_areas();
 

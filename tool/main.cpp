@@ -1,8 +1,5 @@
 #include "gcfg/gcfg.h"
-#include "tool/commands/check.h"
-#include "tool/commands/diff.h"
-#include "tool/commands/pack.h"
-#include "tool/commands/show.h"
+#include "tool/commands/commands.h"
 #include "tool/exit_status.h"
 #include "tool/files.h"
 #include "tool/messages.h"
@@ -11,6 +8,7 @@
 #include <csignal>
 #include <exception>
 #include <fmt/format.h>
+#include <functional>
 #include <memory>
 #include <new>
 #include <sstream>
@@ -21,6 +19,10 @@
 namespace {
 
 using namespace pondiff::tool;
+
+#define ADDRESS(name) &name##_command,
+constexpr const Command* commands[] = {PONDIFF_COMMANDS(ADDRESS)};
+#undef ADDRESS
 
 std::string details()
 {
@@ -61,9 +63,13 @@ void ignore_signals_of_failed_writes()
     std::signal(SIGXFSZ, SIG_IGN);
 }
 
-/// Sets the usage line apart from the description, as in a manual page.
+/// Sets the usage line apart from the description, as in a manual page, and shows arguments by their names alone.
 class ManualFormatter : public CLI::Formatter {
   public:
+    std::string make_option_opts(const CLI::Option* option) const override
+    {
+        return option->get_positional() ? "" : CLI::Formatter::make_option_opts(option);
+    }
     std::string make_usage(const CLI::App* app, std::string name) const override
     {
         return "\n" + CLI::Formatter::make_usage(app, std::move(name));
@@ -95,7 +101,6 @@ int answer(const CLI::App& program, const CLI::ParseError& request)
 
 int run(int argc, char** argv)
 {
-    int status = success;
     CLI::App program{"Compares complete configurations of a GPON optical line terminal (OLT)\n"
                      "and writes the CLI commands that turn the one into the other.",
                      "pondiff"};
@@ -108,18 +113,17 @@ int run(int argc, char** argv)
     program.set_version_flag("--version", "pondiff " PONDIFF_VERSION, "Print the version and exit");
     program.require_subcommand(1);
     program.footer(details());
-    add_diff(program, status);
-    add_check(program, status);
-    add_pack(program, status);
-    add_show(program, status);
-    for (CLI::App* const command : program.get_subcommands({}))
-        command->group("Commands");
+    std::function<ExitStatus()> selected;
+    for (const Command* const command : commands) {
+        CLI::App& added = *program.add_subcommand(command->name, command->summary)->group("Commands");
+        added.callback([&selected, run = command->setup(added)] { selected = run; });
+    }
     try {
         program.parse(argc, argv);
+        return selected();
     } catch (const CLI::ParseError& request) {
         return answer(program, request);
     }
-    return status;
 }
 
 } // namespace

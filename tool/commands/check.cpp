@@ -1,7 +1,6 @@
-#include "tool/commands/check.h"
-
 #include "tool/check.h"
-#include "tool/exit_status.h"
+
+#include "tool/commands/commands.h"
 #include "tool/files.h"
 
 #include <CLI/CLI.hpp>
@@ -64,18 +63,17 @@ ExitStatus run(const Arguments& arguments)
     return arguments.strict ? trouble : found;
 }
 
-} // namespace
-
-void add_check(CLI::App& program, int& status)
+std::function<ExitStatus()> setup(CLI::App& command)
 {
-    CLI::App& command = *program.add_subcommand("check", "Name the values of a configuration that no script can carry");
     const auto arguments = std::make_shared<Arguments>();
-    command.add_option("FILE", arguments->configuration, "Configuration to look at; - is standard input")
-        ->required()
-        ->option_text(" ");
+    command.add_option("FILE", arguments->configuration, "Configuration to look at; - is standard input")->required();
     command.add_flag("--strict", arguments->strict, "Exit with status 2 instead of 1 when anything is found");
     command.footer(details);
-    command.callback([arguments, &status] { status = run(*arguments); });
+    return [arguments] { return run(*arguments); };
 }
+
+} // namespace
+
+const Command check_command{"check", "Name the values of a configuration that no script can carry", setup};
 
 } // namespace pondiff::tool

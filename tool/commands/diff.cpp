@@ -1,10 +1,9 @@
-#include "tool/commands/diff.h"
-
 #include "pon/command_file_generator.h"
 #include "tool/areas.h"
 #include "tool/check.h"
+#include "tool/commands/candidates.h"
+#include "tool/commands/commands.h"
 #include "tool/describe/description.h"
-#include "tool/exit_status.h"
 #include "tool/files.h"
 #include "tool/messages.h"
 #include "tool/script.h"
@@ -154,35 +153,34 @@ Area chosen_area(const Arguments& arguments)
     }
 }
 
-} // namespace
-
-void add_diff(CLI::App& program, int& status)
+std::function<ExitStatus()> setup(CLI::App& command)
 {
-    CLI::App& command = *program.add_subcommand("diff", "Print the commands that turn one configuration into another");
     const auto arguments = std::make_shared<Arguments>();
-    command.add_option("ORIG", arguments->orig, "Configuration that the device runs; - is standard input")
-        ->required()
-        ->option_text(" ");
+    command.add_option("ORIG", arguments->orig, "Configuration that the device runs; - is standard input")->required();
     command.add_option("CFG", arguments->cfg, "Configuration wanted; - is standard input, but not for both")
-        ->required()
-        ->option_text(" ");
+        ->required();
     command.add_flag("--all", arguments->all,
                      "Render fields that are equal too, as if they had changed.\n"
                      "ONTs and a system part that are equal as a whole stay out");
     command
         .add_option("--common", arguments->common,
-                    "1: compare the common settings alone: CLI, alarms, layout\n"
-                    "of serial numbers, PON network, OLT, IP source guard. With\n"
-                    "--all, 1 and 2 render the common settings too, 2 also the\n"
-                    "default relay profiles. Other numbers mean what 0, the\n"
-                    "default, does: the whole tree")
-        ->option_text("N");
+                    "Choose how the common settings take part. They are CLI,\n"
+                    "alarms, layout of serial numbers, PON network, OLT and IP\n"
+                    "source guard. 1 compares them alone. With --all, 1 and 2\n"
+                    "render them too, and 2 also the default relay profiles.\n"
+                    "0, the default, and other numbers compare the whole tree")
+        ->option_text("N")
+        ->check(completed_by("0\tthe whole tree\n"
+                             "1\tthe common settings alone\n"
+                             "2\twith --all, the common settings and the default relay profiles too\n"));
     command
         .add_option("--only", arguments->only,
-                    "Compare one area alone: a part of the configuration, an\n"
-                    "ONT, a profile, a block of settings; they are listed below.\n"
-                    "With it, --common matters only to what --all renders")
-        ->option_text("AREA");
+                    "Compare one area alone. An area is a part of the\n"
+                    "configuration, an ONT, a profile or a block of settings;\n"
+                    "they are listed below. With it, --common matters only to\n"
+                    "what --all renders")
+        ->option_text("AREA")
+        ->check(completed_by(area_candidates()));
     command.add_flag("--strict", arguments->strict,
                      "Write no script when CFG has a value that no script can\n"
                      "carry; the exit status is then 2");
@@ -192,11 +190,15 @@ void add_diff(CLI::App& program, int& status)
     command.add_option("-o,--output", arguments->output, "Write the script to FILE instead of standard output")
         ->option_text("FILE");
     command.footer(details());
-    command.callback([arguments, &status] {
+    return [arguments] {
         if (arguments->orig == standard_stream && arguments->cfg == standard_stream)
             throw CLI::ParseError("only one of ORIG and CFG can be standard input", CLI::ExitCodes::ValidationError);
-        status = run(chosen_area(*arguments), *arguments);
-    });
+        return run(chosen_area(*arguments), *arguments);
+    };
 }
+
+} // namespace
+
+const Command diff_command{"diff", "Print the commands that turn one configuration into another", setup};
 
 } // namespace pondiff::tool

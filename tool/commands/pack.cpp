@@ -1,6 +1,4 @@
-#include "tool/commands/pack.h"
-
-#include "tool/exit_status.h"
+#include "tool/commands/commands.h"
 #include "tool/files.h"
 
 #include <CLI/CLI.hpp>
@@ -39,20 +37,19 @@ ExitStatus run(const Arguments& arguments)
     return success;
 }
 
-} // namespace
-
-void add_pack(CLI::App& program, int& status)
+std::function<ExitStatus()> setup(CLI::App& command)
 {
-    CLI::App& command = *program.add_subcommand("pack", "Make a record of a JSON document");
     const auto arguments = std::make_shared<Arguments>();
-    command.add_option("JSON", arguments->document, "Configuration to read; - is standard input")
-        ->required()
-        ->option_text(" ");
+    command.add_option("JSON", arguments->document, "Configuration to read; - is standard input")->required();
     command.add_option("-o,--output", arguments->record, "File to write the record to, required; - is standard output")
         ->required()
         ->option_text("RECORD");
     command.footer(details);
-    command.callback([arguments, &status] { status = run(*arguments); });
+    return [arguments] { return run(*arguments); };
 }
+
+} // namespace
+
+const Command pack_command{"pack", "Make a record of a JSON document", setup};
 
 } // namespace pondiff::tool

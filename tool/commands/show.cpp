@@ -1,6 +1,4 @@
-#include "tool/commands/show.h"
-
-#include "tool/exit_status.h"
+#include "tool/commands/commands.h"
 #include "tool/files.h"
 #include "tool/json/json.h"
 
@@ -41,20 +39,19 @@ ExitStatus run(const Arguments& arguments)
     return success;
 }
 
-} // namespace
-
-void add_show(CLI::App& program, int& status)
+std::function<ExitStatus()> setup(CLI::App& command)
 {
-    CLI::App& command = *program.add_subcommand("show", "Write a configuration as a JSON document");
     const auto arguments = std::make_shared<Arguments>();
-    command.add_option("RECORD", arguments->configuration, "Configuration to read; - is standard input")
-        ->required()
-        ->option_text(" ");
+    command.add_option("RECORD", arguments->configuration, "Configuration to read; - is standard input")->required();
     command.add_flag("--full", arguments->full, "Write the fields that are zero as well");
     command.add_option("-o,--output", arguments->output, "Write the document to FILE instead of standard output")
         ->option_text("FILE");
     command.footer(details);
-    command.callback([arguments, &status] { status = run(*arguments); });
+    return [arguments] { return run(*arguments); };
 }
+
+} // namespace
+
+const Command show_command{"show", "Write a configuration as a JSON document", setup};
 
 } // namespace pondiff::tool
