@@ -325,7 +325,7 @@ constexpr bool have_syntax(const Field (&table)[N])
 {
     for (const Field& field : table) {
         const Syntax& syntax = field.syntax;
-        if (field.record == nullptr && syntax.kind == Syntax::Kind::undescribed) {
+        if (field.form != Form::record && syntax.kind == Syntax::Kind::undescribed) {
             return false;
         }
         const bool has_value = syntax.kind == Syntax::Kind::says && field.form != Form::boolean;
