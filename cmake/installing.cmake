@@ -8,7 +8,29 @@ file(RELATIVE_PATH libraries_from_programs /${CMAKE_INSTALL_BINDIR} /${CMAKE_INS
 file(RELATIVE_PATH prefix_from_pkgconfig /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
 string(REGEX REPLACE "/$" "" prefix_from_pkgconfig ${prefix_from_pkgconfig})
 
-set_target_properties(pondiff-library PROPERTIES EXPORT_NAME pondiff INSTALL_RPATH "$ORIGIN")
+foreach(folder CMAKE_INSTALL_BINDIR CMAKE_INSTALL_LIBDIR)
+    if(IS_ABSOLUTE "${${folder}}")
+        message(FATAL_ERROR "${folder} is ${${folder}}. Give a folder under the prefix, such as lib64.")
+    endif()
+endforeach()
+
+# What is installed is built in folders that are to each other as those it is installed to, so that it finds its libraries
+# in both. Where CMake is to change a path while it installs, it links with that path and an empty one behind it, which
+# is the current folder. A library of the platform that is outside the loader's folders is found where it was linked.
+function(build_as_installed target rpath)
+    set_target_properties(${target} PROPERTIES
+        RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/${CMAKE_INSTALL_BINDIR}
+        LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/${CMAKE_INSTALL_LIBDIR}
+        BUILD_WITH_INSTALL_RPATH ON
+        INSTALL_RPATH "${rpath}")
+    if(PONDIFF_PLATFORM_LIBRARY)
+        set_target_properties(${target} PROPERTIES INSTALL_RPATH_USE_LINK_PATH ON)
+    endif()
+endfunction()
+
+build_as_installed(pondiff-library "$ORIGIN")
+set_target_properties(pondiff-library PROPERTIES EXPORT_NAME pondiff)
+build_as_installed(pondiff-platform "")
 set_target_properties(pondiff-platform PROPERTIES EXPORT_NAME platform)
 install(TARGETS pondiff-library pondiff-platform
     EXPORT pondiff
@@ -33,7 +55,7 @@ install(FILES ${CMAKE_CURRENT_BINARY_DIR}/pondiff.pc
     DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT development)
 
 if(TARGET pondiff)
-    set_target_properties(pondiff PROPERTIES INSTALL_RPATH "$ORIGIN/${libraries_from_programs}")
+    build_as_installed(pondiff "$ORIGIN/${libraries_from_programs}")
     install(TARGETS pondiff RUNTIME COMPONENT program)
 endif()
 
@@ -51,7 +73,7 @@ endif()
 
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${PROJECT_BINARY_DIR}/pon ${PROJECT_BINARY_DIR}/platform)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${PROJECT_BINARY_DIR}/${CMAKE_INSTALL_LIBDIR})
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "") # each package has its own, the first line of its description
 set(same_library "libpondiff1 (= ${PROJECT_VERSION})")

@@ -1,4 +1,4 @@
-#include "platform.h"
+#include "platform/platform.h"
 #include "tool/describe/description.h"
 #include "tool/describe/records.h"
 #include "tool/describe/table.h"

@@ -1,6 +1,6 @@
 #include "tool/json/words.h"
 
-#include "platform.h"
+#include "platform/platform.h"
 #include "tool/json/forms.h"
 
 #include <algorithm>
