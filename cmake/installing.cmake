@@ -1,5 +1,4 @@
-# What "cmake --install" puts where, for programs that find the library with CMake or pkg-config, and the Debian packages
-# that "cpack" in the build folder makes of it.
+# What "cmake --install" puts where, for programs that find the library with CMake or pkg-config.
 include(CMakePackageConfigHelpers)
 
 set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/pondiff)
@@ -58,50 +57,3 @@ if(TARGET pondiff)
     build_as_installed(pondiff "$ORIGIN/${libraries_from_programs}")
     install(TARGETS pondiff RUNTIME COMPONENT program)
 endif()
-
-# ------------------------------------------------------------------------------------------------- Debian packages
-
-set(CPACK_GENERATOR DEB)
-set(CPACK_PACKAGE_CONTACT "The pondiff maintainers <maintainers@pondiff.invalid>")
-set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
-set(CPACK_STRIP_FILES ON)
-set(CPACK_DEB_COMPONENT_INSTALL ON)
-set(CPACK_COMPONENTS_ALL library development)
-if(TARGET pondiff)
-    list(APPEND CPACK_COMPONENTS_ALL program)
-endif()
-
-set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
-set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${PROJECT_BINARY_DIR}/${CMAKE_INSTALL_LIBDIR})
-set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
-set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "") # each package has its own, the first line of its description
-set(same_library "libpondiff1 (= ${PROJECT_VERSION})")
-
-set(CPACK_DEBIAN_LIBRARY_PACKAGE_NAME libpondiff1)
-set(CPACK_DEBIAN_LIBRARY_PACKAGE_SECTION libs)
-set(CPACK_DEBIAN_LIBRARY_DESCRIPTION "${PROJECT_DESCRIPTION} (library)
-Given the configuration that a GPON OLT runs and the one wanted, the library
-writes the commands of the device's CLI that turn the one into the other.
-
-This package holds the library and the stand-in for the device's own library of
-converters and CLI words, which serves where that one is not there.")
-
-set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME libpondiff-dev)
-set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
-set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS ${same_library})
-set(CPACK_DEBIAN_DEVELOPMENT_DESCRIPTION "${PROJECT_DESCRIPTION} (development files)
-Given the configuration that a GPON OLT runs and the one wanted, the library
-writes the commands of the device's CLI that turn the one into the other.
-
-This package holds the headers for C and C++ and what CMake and pkg-config need
-to find the library.")
-
-set(CPACK_DEBIAN_PROGRAM_PACKAGE_NAME pondiff)
-set(CPACK_DEBIAN_PROGRAM_PACKAGE_SECTION net)
-set(CPACK_DEBIAN_PROGRAM_PACKAGE_DEPENDS ${same_library})
-set(CPACK_DEBIAN_PROGRAM_DESCRIPTION "${PROJECT_DESCRIPTION}
-Given the configuration that a GPON OLT runs and the one wanted, as packed
-records or as JSON documents, this program writes the commands of the device's
-CLI that turn the one into the other.")
-include(CPack)

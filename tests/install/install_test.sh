@@ -56,6 +56,8 @@ consumers() {
     LD_LIBRARY_PATH=$libraries python3 "$source/examples/python/print_script.py" orig.bin cfg.bin >python.script
     expect_script python.script
 
+    [ -f "$prefix/share/zsh/site-functions/_pondiff" ] || fail "zsh does not look where its completion is"
+
     # The library finds the platform's beside it by itself.
     env -u LD_LIBRARY_PATH python3 -c "import ctypes, sys; ctypes.CDLL(sys.argv[1]).GetDiff_c" "$libraries/libpondiff.so.1"
 
@@ -104,8 +106,31 @@ packages() {
         /usr/include/pondiff.h /usr/include/pondiff/platform.h /usr/include/gcfg/gcfg.h \
         /usr/include/pon/command_file_generator.h /usr/include/pon/diff_builder.h \
         /usr/include/pon/DataToCommandsConvertor.h /usr/include/pon/visibility.h
-    expect_package pondiff "libpondiff1 (= " /usr/bin/pondiff /usr/share/man/man1/pondiff.1 \
+    expect_package pondiff "libpondiff1 (= " /usr/bin/pondiff /usr/share/man/man1/pondiff.1.gz \
         /usr/share/bash-completion/completions/pondiff /usr/share/zsh/vendor-completions/_pondiff
+
+    local name
+    for name in libpondiff1 libpondiff-dev pondiff; do
+        dpkg-deb --fsys-tarfile "$name"_*.deb | tar -x -O "./usr/share/doc/$name/copyright" | grep -q Apache-2.0 ||
+            fail "$name does not name its licence"
+    done
+    dpkg-deb --ctrl-tarfile libpondiff1_*.deb | tar -x -O ./symbols >symbols
+    grep -qx ' initiate_diff_c@PONDIFF_1 [0-9.]*' symbols || fail "libpondiff1 does not list its symbols"
+    for name in libpondiff libpondiff-platform; do
+        dpkg-deb --fsys-tarfile libpondiff1_*.deb | tar -x -O ".$libraries/$name.so.1.0.0" >library
+        nm -D --defined-only library | awk '{ sub(/@@/, "@", $3); print $3 ~ /@/ ? $3 : $3 "@" ($2 == "A" ? $3 : "Base") }'
+    done | LC_ALL=C sort >provided
+    sed -n 's/^ \([^ ]*\) .*/\1/p' symbols | LC_ALL=C sort | diff - provided || fail "libpondiff1 lists other symbols than it has"
+
+    # Without dpkg-shlibdeps nobody would know what they depend on.
+    mkdir commands
+    for name in cmake cpack gzip; do
+        ln -s "$(command -v $name)" commands
+    done
+    ! PATH=$work/commands cpack --config "$build/CPackConfig.cmake" -D CMAKE_FIND_USE_CMAKE_SYSTEM_PATH=OFF \
+        -D CPACK_PACKAGE_DIRECTORY="$work/none" >cpack.log 2>&1 ||
+        fail "cpack makes packages without dependencies"
+    grep -q 'scripts/packages' cpack.log || fail "cpack does not report what it needs: $(cat cpack.log)"
 
     # What they hold is enough for the program to run.
     dpkg-deb -x libpondiff1_*.deb system
