@@ -241,23 +241,22 @@ TEST(FailingAllocation, LeavesAScratchTextAsItWas)
 {
     using pondiff::Text;
     void (*const append[])(Text&) = {
-        [](Text& text) { text.append("more than is left"); },
-        [](Text& text) { text.append_natural(7); },
-        [](Text& text) { text.append_decimal(-7); },
+        [](Text& text) { text.append("more than is left"); }, [](Text& text) { text.append('v'); },
+        [](Text& text) { text.append_natural(7); },           [](Text& text) { text.append_decimal(-7); },
         [](Text& text) { text.append_aligned(7); },
     };
-    const std::string nearly_full(1015, 'v');
+    const std::string filled(1023, 'v');
     for (const auto& more : append) {
         SCOPED_TRACE(&more - append);
         Text text;
-        text.append(nearly_full.c_str());
+        text.append(filled.c_str());
         {
             const FailingAllocation failure(1, Failing::once);
             more(text);
             EXPECT_TRUE(failure.happened());
         }
         EXPECT_TRUE(text.failed());
-        EXPECT_EQ(text.c_str(), nearly_full);
+        EXPECT_EQ(text.c_str(), filled);
         EXPECT_EQ(text.release_copy(), nullptr);
     }
 }

@@ -10,7 +10,9 @@ namespace {
 
 bool push(List<char>& list, const std::string& text)
 {
-    return pondiff::push(list, text.data(), text.size());
+    pondiff::Text copy;
+    copy.append(text.data(), text.size());
+    return pondiff::push(list, copy);
 }
 
 } // namespace
@@ -26,13 +28,24 @@ TEST(PushedTexts, AListOfOthersGetsEveryElement)
     EXPECT_EQ(take_elements(list), Elements({"configure terminal\nip", "", "\nexit", "exit"}));
 }
 
-TEST(PushedTexts, AreCopiesOfTheStatedSize)
+TEST(PushedTexts, AreCopies)
 {
     List<char> list;
-    char text[] = "exit and more";
-    EXPECT_TRUE(pondiff::push(list, text, 4));
-    text[0] = 'X';
+    pondiff::Text text;
+    text.append("exit");
+    EXPECT_TRUE(pondiff::push(list, text));
+    *text.data() = 'X';
     EXPECT_EQ(take_elements(list), Elements({"exit"}));
+}
+
+TEST(PushedTexts, ATextThatLostAPartIsNoElement)
+{
+    List<char> list;
+    pondiff::Text text;
+    text.append("exit");
+    text.fail();
+    EXPECT_FALSE(pondiff::push(list, text));
+    EXPECT_EQ(take_elements(list), Elements{});
 }
 
 TEST(PushedTexts, AnOperationsListBecomesLinesWithoutEmptiesAndLineFeeds)
@@ -49,7 +62,7 @@ TEST(PushedTexts, AnOperationsListBecomesLinesWithoutEmptiesAndLineFeeds)
     EXPECT_TRUE(push(script, ""));
     EXPECT_TRUE(push(script, "shutdown"));
     EXPECT_TRUE(push(script, "exit\nexit"));
-    script.append_line("commit", 6);
+    EXPECT_TRUE(push(script, "commit"));
     EXPECT_FALSE(script.failed());
     EXPECT_EQ(taken(script.release()), "configure terminal\ninterface ont 0/5\nshutdown\nexit\nexit\ncommit\n");
     EXPECT_EQ(script.size(), 0) << "nothing is kept twice";
@@ -124,56 +137,15 @@ TEST(PushedTexts, LinesOfEveryLengthAroundPowersOfTwoAreWhole)
     }
 }
 
-TEST(PushedTexts, ALineMayBeBuiltInPlace)
-{
-    Script script;
-    const auto build = [&script](const std::string& line) {
-        char* const room = script.room();
-        ASSERT_NE(room, nullptr);
-        ASSERT_GT(script.room_size(), 1024U);
-        line.copy(room, line.size());
-        script.take_line(line.size());
-    };
-    build("");
-    build("\n");
-    build("\nexit");
-    EXPECT_TRUE(script.empty()) << "neither empty ones nor those that begin with a line feed are lines";
-    build("first");
-    build("\nexit");
-    build("");
-    build("second\nthird\n");
-    EXPECT_EQ(taken(script.release()), "first\nsecond\nthird\n\n");
-}
-
-TEST(PushedTexts, RoomForALineIsAlwaysFound)
-{
-    Script script;
-    std::string expected;
-    for (std::size_t i = 0; i < 3000; ++i) {
-        const std::string line(1023, static_cast<char>('a' + i % 26));
-        char* const room = script.room();
-        ASSERT_NE(room, nullptr);
-        line.copy(room, line.size());
-        script.take_line(line.size());
-        expected += line + '\n';
-    }
-    EXPECT_EQ(taken(script.release()), expected);
-}
-
-TEST(PushedTexts, AScriptThatLostATextHasNoRoom)
-{
-    Script script;
-    EXPECT_NE(script.room(), nullptr);
-    script.lose();
-    EXPECT_EQ(script.room(), nullptr);
-    EXPECT_FALSE(push(script, "more"));
-}
-
 TEST(PushedTexts, AScriptThatLostATextIsNull)
 {
     Script script;
     EXPECT_TRUE(push(script, "first"));
-    script.lose();
+    pondiff::Text lost;
+    lost.append("second");
+    lost.fail();
+    EXPECT_FALSE(pondiff::push(script, lost));
+    EXPECT_FALSE(push(script, "third"));
     EXPECT_TRUE(script.failed());
     EXPECT_EQ(script.release(), nullptr);
 }

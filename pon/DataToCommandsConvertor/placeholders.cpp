@@ -122,7 +122,7 @@ void substitute(Text& line, const int* ids)
         }
         done += identifier_width;
         if (done > line.size())
-            line.append(" ", 1); // a mark at the very end: four characters are written all the same
+            line.append(' '); // a mark at the very end: four characters are written all the same
         if (done > line.size())
             return;
         put_identifier(line.data() + done - identifier_width, ids[slot]);

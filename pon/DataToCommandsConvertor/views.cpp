@@ -90,12 +90,12 @@ void append_identifier(View view, int id, Text& out)
     if (data.names) {
         const char* const old_name = name_in(data.old_names, data.slots, id);
         const char* const name = old_name ? old_name : name_in(data.names, data.slots, id);
-        out.append("\"", 1);
+        out.append('"');
         out.append(name ? name : "");
-        out.append("\"", 1);
+        out.append('"');
     } else if (view == View::ont) {
         out.append_decimal(id / GCFG_ONTS_PER_PORT);
-        out.append("/", 1);
+        out.append('/');
         out.append_decimal(id % GCFG_ONTS_PER_PORT);
     } else {
         out.append_aligned(id);
@@ -146,7 +146,7 @@ void leave_for(std::optional<View> wanted, const int* key, Text& out)
         append_way(*standing, View::root, key, out);
         current_view.name = data_of(View::root).name;
     }
-    out.append("\n", 1);
+    out.append('\n');
     if (wanted && *wanted != View::root) {
         append_way(View::root, *wanted, key, out);
         move_to(*wanted, key);

@@ -11,9 +11,8 @@ void Operation::go_to(View view)
 
 char* Operation::finish(Ending ending)
 {
-    constexpr char commit[] = "commit";
     if (ending == Ending::commit && !script.empty())
-        script.append_line(commit, sizeof commit - 1);
+        append(script, "commit");
     char* const text = script.release();
     if (!text)
         current_view = before_;

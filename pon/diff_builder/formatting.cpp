@@ -27,14 +27,11 @@ void append_hexadecimal(Text& out, std::uint64_t value, std::size_t least_digits
 
 void append_ipv4(Text& out, const std::uint8_t* address)
 {
-    char dotted[std::size_t{3} * 4 + most_digits];
-    char* at = dotted;
     for (int i = 0; i < 4; ++i) {
         if (i != 0)
-            *at++ = '.';
-        at += put_natural(at, address[i]);
+            out.append('.');
+        out.append_natural(address[i]);
     }
-    out.append(dotted, static_cast<std::size_t>(at - dotted));
 }
 
 void append_ipv6(Text& out, const void* address)

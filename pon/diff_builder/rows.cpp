@@ -35,42 +35,6 @@ bool is_scalar(const RowData& row)
            (row.kind != RowData::Kind::value || row.how <= Value::Form::ber_interval);
 }
 
-bool push_text(List<char>& out, const Text& text)
-{
-    if (!text.failed())
-        return push(out, text.data(), text.size());
-    if (Script* const script = Script::of(out))
-        script->lose();
-    return false;
-}
-
-/// A line under construction: where it is bound for when that is the text of the operation under way, else on the
-/// stack.
-class Line {
-  public:
-    explicit Line(List<char>& out)
-        : out_(out), script_(Script::of(out)), room_(script_ ? script_->room() : nullptr),
-          text_(room_ ? Text(room_, script_->room_size() - 1) : Text())
-    {
-    }
-
-    Text& text() { return text_; }
-
-    bool push()
-    {
-        if (!room_ || text_.failed() || text_.data() != room_)
-            return push_text(out_, text_);
-        script_->take_line(text_.size());
-        return true;
-    }
-
-  private:
-    List<char>& out_;
-    Script* script_;
-    char* room_;
-    Text text_;
-};
-
 /// The values of a template: the one that leads all of the table's commands, if there is one, and the row's own.
 void format_command(Text& line, const Where& where, const char* form, const Value* values, std::size_t count)
 {
@@ -87,11 +51,11 @@ void format_command(Text& line, const Where& where, const char* form, const Valu
 bool navigate(const Where& where)
 {
     if (stands_at(where.view, where.key))
-        return Script::of(where.out) || push(where.out, "", 0); // a script has no use for empty elements
+        return Script::of(where.out) || push(where.out, Text()); // a script has no use for empty elements
     const view_state before = current_view;
-    Text text;
+    PON_SCRATCH Text text;
     goto_view(where.view, where.key, text);
-    if (push_text(where.out, text))
+    if (push(where.out, text))
         return true;
     current_view = before; // the script never gets there: the next command has to
     return false;
@@ -99,17 +63,17 @@ bool navigate(const Where& where)
 
 bool command_values(const Where& where, const char* form, const Value* values, std::size_t count)
 {
-    Line line(where.out);
-    format_command(line.text(), where, form, values, count);
-    substitute(line.text(), where.key);
-    return line.push();
+    PON_SCRATCH Text line;
+    format_command(line, where, form, values, count);
+    substitute(line, where.key);
+    return push(where.out, line);
 }
 
 bool append_values(List<char>& out, const char* form, const Value* values, std::size_t count)
 {
-    Text line;
+    PON_SCRATCH Text line;
     format(line, form, values, count);
-    return push_text(out, line);
+    return push(out, line);
 }
 
 namespace {
@@ -120,8 +84,7 @@ void emit_parts(const Where& where, const char* form, const RowData::Parts& part
     constexpr std::uint8_t none = RowData::Parts::none;
     if (!navigate(where))
         return;
-    Line line(where.out);
-    Text& text = line.text();
+    PON_SCRATCH Text text;
     std::size_t done = 0;
     std::uint8_t next = parts.first;
     std::size_t mark = parts.mark; // where the placeholder comes to stand
@@ -146,7 +109,7 @@ void emit_parts(const Where& where, const char* form, const RowData::Parts& part
         substitute(text, where.key);
     else if (parts.mark != none && !text.failed())
         put_identifier(text.data() + mark, where.key[form[parts.mark + 3] - '0']);
-    line.push();
+    push(where.out, text);
 }
 
 } // namespace

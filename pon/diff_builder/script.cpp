@@ -38,13 +38,15 @@ bool Script::grow(std::size_t more)
     return true;
 }
 
-void Script::append_line(const char* text, std::size_t size)
+void Script::append_line(const Text& line)
 {
-    if (size == 0 || *text == '\n' || failed_)
+    failed_ = failed_ || line.failed();
+    const std::size_t size = line.size();
+    if (failed_ || size == 0 || *line.data() == '\n')
         return;
     if (capacity_ - size_ <= size + 1 && !grow(size + 1))
         return;
-    std::memcpy(text_ + size_, text, size);
+    std::memcpy(text_ + size_, line.data(), size);
     size_ += size;
     text_[size_++] = '\n';
 }
@@ -65,17 +67,15 @@ char* Script::release()
     return text;
 }
 
-bool push(List<char>& out, const char* text, std::size_t size)
+bool push(List<char>& out, const Text& text)
 {
     if (Script* const script = Script::of(out)) {
-        script->append_line(text, size);
+        script->append_line(text);
         return !script->failed();
     }
-    auto* const copy = static_cast<char*>(std::malloc(size + 1));
+    char* const copy = text.release_copy();
     if (!copy)
         return false;
-    std::memcpy(copy, text, size);
-    copy[size] = '\0';
     if (out.push_back(copy))
         return true;
     std::free(copy);

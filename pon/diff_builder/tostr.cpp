@@ -39,7 +39,7 @@ char* heap_array(const T* values, int count, std::size_t widest)
     Text text;
     for (int i = 0; i < count; ++i) {
         if (i != 0)
-            text.append(",", 1);
+            text.append(',');
         text.append_decimal(values[i]);
     }
     const std::size_t capacity = count > 0 ? static_cast<std::size_t>(count) * widest : 1;

@@ -38,7 +38,7 @@ void append_ranges(const GPonOntSelectiveTunnel& tunnel, Text& list)
         if (in_run && run_goes_on)
             continue;
         if (i != 0)
-            list.append(in_run ? "-" : ",", 1);
+            list.append(in_run ? '-' : ',');
         list.append_decimal(vid);
         in_run = run_goes_on;
     }
