@@ -203,7 +203,7 @@ class Script : public Diff {
   public:
     Script()
     {
-        // Equal, so that nothing is told of fields that differ.
+        // Equal, so that nothing is reported about fields that differ.
         const std::string objects = R"({"pon": {"ont": {"70": {"exist": true}, "531": {"exist": true}},
             "profiles_olt": {"vlan": {"3": {"exist": true, "name": "residential"}, "4": {"name": "freed"}},
                              "dhcp_ra": {"0": {"exist": true, "name": "relay"}}},
@@ -346,7 +346,7 @@ TEST_F(Script, MovesAreNoCommandsForTheFieldsThatDiffer)
     EXPECT_EQ(verbatim.status, 0);
 }
 
-TEST_F(Script, MemoryThatTheLibraryCannotHaveIsTrouble)
+TEST_F(Script, LibraryWithoutMemoryIsAnError)
 {
     for (const char* const variable : {"TEST_NO_SESSION=1", "TEST_NO_SCRIPT=1"}) {
         write("script", "as it was\n");
@@ -420,7 +420,7 @@ TEST_F(Files, StandardInputIsEitherOfTheTwo)
     EXPECT_EQ(run({"diff", "-", "cfg.json"}, surroundings).err, "pondiff: standard input: Bad file descriptor\n");
 }
 
-TEST_F(Files, WrongSizeIsToldWithTheRightOne)
+TEST_F(Files, WrongSizeIsReportedWithTheRightOne)
 {
     write("short.bin", std::string(record_size - 1, '\0'));
     write("long.bin", std::string(record_size + 1, '\0'));
@@ -466,7 +466,7 @@ TEST_F(Files, MistakeInADocumentWritesNothing)
     EXPECT_THAT(names(), ElementsAre("cfg.json", "orig.json", "script"));
 }
 
-TEST_F(Files, MistakeInADocumentIsToldWithItsPath)
+TEST_F(Files, MistakeInADocumentIsReportedWithItsPath)
 {
     EXPECT_EQ(against_blank(R"({"pon": {"ont": {"600": {"exist": true}}}})").err,
               "pondiff: cfg.json: pon.ont.600: index 600, but there are 532 ONTs (0 to 531)\n");

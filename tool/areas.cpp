@@ -1,6 +1,7 @@
 #include "tool/areas.h"
 
 #include "pon/command_file_generator.h"
+#include "tool/errors.h"
 #include "tool/json/forms.h"
 #include "tool/json/store.h"
 #include "tool/profiles.h"
@@ -81,6 +82,17 @@ std::optional<int> ont_index(std::string_view text)
     return *port * GCFG_ONTS_PER_PORT + *id;
 }
 
+/// An area as the user writes it.
+struct Request {
+    std::string_view name;     ///< the whole of it
+    std::string_view argument; ///< what stands behind the first colon
+};
+
+[[noreturn]] void reject(const Request& request, const std::string& reason)
+{
+    throw UsageError(fmt::format("--only {}: {}", request.name, reason));
+}
+
 /// One element of an array.
 Range element_of(const Range& array, int slots, int slot)
 {
@@ -88,44 +100,44 @@ Range element_of(const Range& array, int slots, int slot)
     return {array.offset + static_cast<std::size_t>(slot) * size, size};
 }
 
-Area system_part(std::string_view /*argument*/)
+Area system_part(const Request& /*request*/)
 {
     return {{RECORDS(system)}, [](GCfg& orig, GCfg& cfg) { return GetSystemDiff(&orig.system, &cfg.system); }};
 }
 
-Area pon_part(std::string_view /*argument*/)
+Area pon_part(const Request& /*request*/)
 {
     return {{RECORDS(pon)}, [](GCfg& orig, GCfg& cfg) { return GetPonDiff(&orig.pon, &cfg.pon); }};
 }
 
-Area ont(std::string_view argument)
+Area ont(const Request& request)
 {
-    const std::optional<int> index = ont_index(argument);
+    const std::optional<int> index = ont_index(request.argument);
     if (!index)
-        throw UnknownArea(fmt::format("no such ONT; there are 0 to {}, also written 0/0 to {}/{}", GCFG_ONTS - 1,
-                                      (GCFG_ONTS - 1) / GCFG_ONTS_PER_PORT, (GCFG_ONTS - 1) % GCFG_ONTS_PER_PORT));
+        reject(request, fmt::format("no such ONT; there are 0 to {}, also written 0/0 to {}/{}", GCFG_ONTS - 1,
+                                    (GCFG_ONTS - 1) / GCFG_ONTS_PER_PORT, (GCFG_ONTS - 1) % GCFG_ONTS_PER_PORT));
     return {{element_of(RECORDS(pon.ont), GCFG_ONTS, *index)},
             [i = *index](GCfg& orig, GCfg& cfg) { return GetGponOntDiff(&orig.pon.ont[i], &cfg.pon.ont[i], i); }};
 }
 
-Area port(std::string_view argument)
+Area port(const Request& request)
 {
-    const std::optional<int> number = slot_number(argument, GCFG_GPON_PORTS);
+    const std::optional<int> number = slot_number(request.argument, GCFG_GPON_PORTS);
     if (!number)
-        throw UnknownArea(fmt::format("no such GPON port; there are 0 to {}", GCFG_GPON_PORTS - 1));
+        reject(request, fmt::format("no such GPON port; there are 0 to {}", GCFG_GPON_PORTS - 1));
     return {{element_of(RECORDS(pon.olt.channel), GCFG_GPON_PORTS, *number)}, [i = *number](GCfg& orig, GCfg& cfg) {
                 return GetGponChannelDiff(&orig.pon.olt.channel[i], &cfg.pon.olt.channel[i], i);
             }};
 }
 
-Area profiles_olt(std::string_view /*argument*/)
+Area profiles_olt(const Request& /*request*/)
 {
     return {{RECORDS(pon.profiles_olt)}, [](GCfg& orig, GCfg& cfg) {
                 return GetGPonProfilesOltDiff(&orig.pon.profiles_olt, &cfg.pon.profiles_olt);
             }};
 }
 
-Area profiles_ont(std::string_view /*argument*/)
+Area profiles_ont(const Request& /*request*/)
 {
     return {{RECORDS(pon.profiles_ont)}, [](GCfg& orig, GCfg& cfg) {
                 return GetGPonProfilesOntDiff(&orig.pon.profiles_ont, &cfg.pon.profiles_ont);
@@ -133,8 +145,9 @@ Area profiles_ont(std::string_view /*argument*/)
 }
 
 /// The profiles of a kind, or the one in a slot.
-Area profile(std::string_view argument)
+Area profile(const Request& request)
 {
+    const std::string_view argument = request.argument;
     const std::size_t colon = argument.find(':');
     const std::string_view name = argument.substr(0, colon);
     for (const ProfileKind& kind : profile_kinds) {
@@ -145,7 +158,7 @@ Area profile(std::string_view argument)
         if (colon != argument.npos) {
             const std::optional<int> slot = slot_number(argument.substr(colon + 1), kind.slots);
             if (!slot)
-                throw UnknownArea(fmt::format("no such {}; there are 0 to {}", kind.called, kind.slots - 1));
+                reject(request, fmt::format("no such {}; there are 0 to {}", kind.called, kind.slots - 1));
             id = *slot;
             records = element_of(records, kind.slots, id);
         }
@@ -154,34 +167,34 @@ Area profile(std::string_view argument)
                 }};
     }
     const std::vector<std::string_view> names = names_of(profile_kinds);
-    throw UnknownArea(
-        fmt::format("no such kind of profile{}; there are {}", suggestion(name, names), enumerated(names)));
+    reject(request, fmt::format("no such kind of profile{}; there are {}", suggestion(name, names), enumerated(names)));
 }
 
-Area block(std::string_view argument)
+Area block(const Request& request)
 {
     for (const Block& known : blocks)
-        if (known.name == argument)
-            return {known.records, [text = std::string(argument)](GCfg& orig, GCfg& cfg) mutable {
+        if (known.name == request.argument)
+            return {known.records, [text = std::string(request.argument)](GCfg& orig, GCfg& cfg) mutable {
                         return GetBlockDiff(&orig, &cfg, text.data());
                     }};
     const std::vector<std::string_view> names = names_of(blocks);
-    throw UnknownArea(fmt::format("no such block{}; there are {}", suggestion(argument, names), enumerated(names)));
+    reject(request,
+           fmt::format("no such block{}; there are {}", suggestion(request.argument, names), enumerated(names)));
 }
 
-Area alarm(std::string_view /*argument*/)
+Area alarm(const Request& /*request*/)
 {
     return {{RECORDS(system.services.alarm)}, [](GCfg& orig, GCfg& cfg) { return GetAlarmDiff(&orig, &cfg); }};
 }
 
-Area routes(std::string_view /*argument*/)
+Area routes(const Request& /*request*/)
 {
     return {{RECORDS(system.services.routing)}, [](GCfg& orig, GCfg& cfg) {
                 return GetRoutesDiffMemSafe(&orig.system.services.routing, &cfg.system.services.routing, nullptr);
             }};
 }
 
-Area terminal_vlans(std::string_view /*argument*/)
+Area terminal_vlans(const Request& /*request*/)
 {
     return {{RECORDS(pon.network.terminal_vlan)},
             [](GCfg& /*orig*/, GCfg& /*cfg*/) { return GetTerminalVlanHeaders(); }};
@@ -209,7 +222,7 @@ struct AreaKind {
     const char* name;
     const char* argument; ///< what stands behind a colon; null where there is none
     const char* shows;
-    Area (*area)(std::string_view argument);
+    Area (*area)(const Request& request);
     std::vector<std::string> (*arguments)() = nullptr; ///< those that a shell completes
 };
 
@@ -281,9 +294,9 @@ Area area_named(const std::string& name)
     const std::string_view argument = colon == name.npos ? "" : std::string_view(name).substr(colon + 1);
     for (const AreaKind& kind : area_kinds)
         if (kind.name == kind_name && (kind.argument || colon == name.npos))
-            return kind.area(argument);
-    throw UnknownArea(
-        fmt::format("no such area{}; there are {}", suggestion(kind_name, names_of(area_kinds)), list_of_kinds()));
+            return kind.area({name, argument});
+    reject({name, argument},
+           fmt::format("no such area{}; there are {}", suggestion(kind_name, names_of(area_kinds)), list_of_kinds()));
 }
 
 std::string area_candidates()

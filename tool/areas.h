@@ -4,7 +4,6 @@
 #include "tool/describe/description.h"
 
 #include <functional>
-#include <stdexcept>
 #include <string>
 
 namespace pondiff::tool {
@@ -15,17 +14,12 @@ struct Area {
     std::function<char*(GCfg&, GCfg&)> script; ///< the library's operation, for the records of the session
 };
 
-/// A name that no area has; the message lists those that there are.
-struct UnknownArea : std::runtime_error {
-    using std::runtime_error::runtime_error;
-};
-
 /// The whole configuration.
 /// @param common  as for `initiate_diff`: at 1 the common records alone
 Area whole_configuration(int common);
 
 /// The area of a name such as "system", "ont:1/6" or "profile:vlan:3".
-/// @throws UnknownArea
+/// @throws UsageError  when there is no such area; its message lists those that there are
 Area area_named(const std::string& name);
 
 /// The names of the areas for a shell to complete, as `completed_by` takes them.

@@ -4,11 +4,11 @@
 namespace pondiff::tool {
 
 /// Exit statuses of the program, as users of diff(1) expect them.
-enum ExitStatus {
+enum class ExitStatus {
     success = 0,        ///< of a diff: there is nothing to do
     script_written = 1, ///< of a diff: the configurations differ
     found = 1,          ///< of a check: there are findings
-    trouble = 2,        ///< what was asked could not be done
+    error = 2,          ///< what was asked could not be done
 };
 
 } // namespace pondiff::tool

@@ -33,7 +33,7 @@ class Descriptor {
     Descriptor& operator=(const Descriptor&) = delete;
 
     int number() const { return number_; }
-    /// Closes the file where the outcome matters: some file systems tell only now that the content had no room.
+    /// Closes the file where the outcome matters: some file systems report only here that the disk is full.
     bool close() { return ::close(std::exchange(number_, -1)) == 0; }
 
   private:
@@ -210,7 +210,7 @@ void replace_file(const std::string& file, const struct stat* existing, std::str
 } // namespace
 
 FileError::FileError(const std::string& file, int error)
-    : std::runtime_error(fmt::format("{}: {}", file, std::strerror(error)))
+    : Error(fmt::format("{}: {}", file, std::strerror(error)))
 {
 }
 

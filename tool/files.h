@@ -2,9 +2,9 @@
 #define TOOL_FILES_H
 
 #include "gcfg/gcfg.h"
+#include "tool/errors.h"
 
 #include <memory>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 
@@ -12,11 +12,6 @@ namespace pondiff::tool {
 
 /// The file name that stands for standard input where a file is read and for standard output where one is written.
 inline constexpr char standard_stream[] = "-";
-
-/// A file that could not be read or written: its name and the system's reason.
-struct FileError : std::runtime_error {
-    FileError(const std::string& file, int error);
-};
 
 /// What messages call a file that is read.
 std::string name_of_input(const std::string& file);

@@ -1,5 +1,6 @@
 #include "gcfg/gcfg.h"
 #include "tool/commands/commands.h"
+#include "tool/errors.h"
 #include "tool/exit_status.h"
 #include "tool/files.h"
 #include "tool/messages.h"
@@ -26,8 +27,8 @@ constexpr const Command* commands[] = {PONDIFF_COMMANDS(ADDRESS)};
 
 std::string details()
 {
-    return fmt::format(R"(A configuration is everything that the device is told: its system settings and
-its PON. Every command reads it in either of two forms, told apart by content:
+    return fmt::format(R"(A configuration holds all settings of a device: its system settings and its PON.
+Every command reads it in either of two forms, which it knows by the content:
 
   Record         The packed record that the device software keeps, exactly
                  {} bytes.
@@ -40,11 +41,11 @@ Where a file is named, - stands for standard input or output; a file of that
 name is ./-
 
 Exit status:
-  0  all went well; of "pondiff diff": there is nothing to do; of "pondiff
-     check": nothing was found
+  0  success; of "pondiff diff": there is nothing to do; of "pondiff check":
+     nothing was found
   1  of "pondiff diff": a script was written; of "pondiff check": something was
      found
-  2  trouble, told on standard error
+  2  error; see standard error
 
 Examples:
   pondiff diff running.bin wanted.json
@@ -52,7 +53,7 @@ Examples:
   pondiff show running.bin > running.json
   pondiff pack running.json -o running.bin
 
-"pondiff COMMAND --help" tells more of each command.)",
+"pondiff COMMAND --help" describes each command.)",
                        sizeof(GCfg));
 }
 
@@ -76,54 +77,75 @@ class ManualFormatter : public CLI::Formatter {
     }
 };
 
-std::string complaint(const CLI::App& program, const CLI::ParseError& request)
-{
-    if (!program.get_subcommands().empty())
-        return request.what();
-    const std::vector<std::string> unknown = program.remaining();
-    return unknown.empty() ? "a command is required" : unknown.front() + ": no such command or option";
-}
+/// The command line of the program.
+class Program {
+  public:
+    Program();
 
-/// Answers a request for help or for the version, or tells what is wrong with the command line.
-int answer(const CLI::App& program, const CLI::ParseError& request)
-{
-    std::ostringstream text;
-    if (program.exit(request, text, text) == 0) {
-        write_file(standard_stream, text.str());
-        return success;
-    }
-    std::string command = "pondiff";
-    for (const CLI::App* const selected : program.get_subcommands())
-        command += " " + selected->get_name();
-    tell(complaint(program, request) + "\nTry '" + command + " --help'.");
-    return trouble;
-}
+    /// Runs what the command line asks for.
+    /// @throws Error
+    ExitStatus run(int argc, char** argv);
 
-int run(int argc, char** argv)
+    /// Where the user finds help after a mistake on the command line.
+    std::string hint() const;
+
+  private:
+    std::string mistake(const CLI::ParseError& error) const;
+
+    CLI::App app_{"Compares complete configurations of a GPON optical line terminal (OLT)\n"
+                  "and writes the CLI commands that turn the one into the other.",
+                  "pondiff"};
+    std::function<ExitStatus()> selected_;
+};
+
+Program::Program()
 {
-    CLI::App program{"Compares complete configurations of a GPON optical line terminal (OLT)\n"
-                     "and writes the CLI commands that turn the one into the other.",
-                     "pondiff"};
     const auto formatter = std::make_shared<ManualFormatter>();
     formatter->column_width(21);
     formatter->label("SUBCOMMAND", "COMMAND");
     formatter->label("Positionals", "Arguments");
-    program.formatter(formatter);
-    program.set_help_flag("-h,--help", "Print this help and exit");
-    program.set_version_flag("--version", "pondiff " PONDIFF_VERSION, "Print the version and exit");
-    program.require_subcommand(1);
-    program.footer(details());
-    std::function<ExitStatus()> selected;
+    app_.formatter(formatter);
+    app_.set_help_flag("-h,--help", "Print this help and exit");
+    app_.set_version_flag("--version", "pondiff " PONDIFF_VERSION, "Print the version and exit");
+    app_.require_subcommand(1);
+    app_.footer(details());
     for (const Command* const command : commands) {
-        CLI::App& added = *program.add_subcommand(command->name, command->summary)->group("Commands");
-        added.callback([&selected, run = command->setup(added)] { selected = run; });
+        CLI::App& added = *app_.add_subcommand(command->name, command->summary)->group("Commands");
+        added.callback([this, run = command->setup(added)] { selected_ = run; });
     }
+}
+
+ExitStatus Program::run(int argc, char** argv)
+{
     try {
-        program.parse(argc, argv);
-        return selected();
-    } catch (const CLI::ParseError& request) {
-        return answer(program, request);
+        app_.parse(argc, argv);
+    } catch (const CLI::Success& request) { // for the help or the version
+        std::ostringstream text;
+        app_.exit(request, text, text);
+        write_file(standard_stream, text.str());
+        return ExitStatus::success;
+    } catch (const CLI::ParseError& error) {
+        throw UsageError(mistake(error));
     }
+    return selected_();
+}
+
+std::string Program::mistake(const CLI::ParseError& error) const
+{
+    if (!app_.get_subcommands().empty()) {
+        return error.what();
+    }
+    const std::vector<std::string> unknown = app_.remaining();
+    return unknown.empty() ? "a command is required" : unknown.front() + ": no such command or option";
+}
+
+std::string Program::hint() const
+{
+    std::string command = app_.get_name();
+    for (const CLI::App* const selected : app_.get_subcommands()) {
+        command += " " + selected->get_name();
+    }
+    return "Try '" + command + " --help'.";
 }
 
 } // namespace
@@ -131,12 +153,15 @@ int run(int argc, char** argv)
 int main(int argc, char** argv)
 {
     ignore_signals_of_failed_writes();
+    Program program;
     try {
-        return run(argc, argv);
+        return static_cast<int>(program.run(argc, argv));
+    } catch (const UsageError& error) {
+        report_error(error.what(), program.hint());
     } catch (const std::bad_alloc&) {
-        tell("out of memory");
+        report_error("out of memory");
     } catch (const std::exception& error) {
-        tell(error.what());
+        report_error(error.what());
     }
-    return trouble;
+    return static_cast<int>(ExitStatus::error);
 }

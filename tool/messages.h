@@ -1,16 +1,19 @@
 #ifndef TOOL_MESSAGES_H
 #define TOOL_MESSAGES_H
 
-#include <cstdio>
-#include <string>
+/// @file
+/// What the program prints on standard error. When that cannot be written to, nobody is left to report it to.
+
+#include <string_view>
 
 namespace pondiff::tool {
 
-/// Tells the user something on standard error. When that cannot be written to, there is nobody to tell.
-inline void tell(const std::string& message)
-{
-    std::fputs(("pondiff: " + message + "\n").c_str(), stderr);
-}
+/// Reports what stopped the program.
+/// @param hint  what to do next, on a line of its own
+void report_error(std::string_view message, std::string_view hint = {});
+
+/// Reports something that did not stop the program.
+void report_warning(std::string_view message);
 
 } // namespace pondiff::tool
 

@@ -44,7 +44,7 @@ std::string pon(const std::string& fields)
     return R"({"pon": {)" + fields + "}}";
 }
 
-TEST_F(CheckDiff, ScriptIsWrittenAndTheValueTold)
+TEST_F(CheckDiff, ScriptIsWrittenAndTheValueReported)
 {
     const Outcome outcome = between("{}", quoted);
     EXPECT_EQ(outcome.out, "configure terminal\nhostname \"olt\"17\"\nexit\ncommit\n");
@@ -67,7 +67,7 @@ TEST_F(CheckDiff, SecretsAreNotShown)
            {"system.services.snmp.communityro: the value holds a quote"});
 }
 
-// -------------------------------------------------------------------------------------------------------- what is told
+// ---------------------------------------------------------------------------------------------------- what is reported
 
 TEST_F(CheckDiff, WhatTheDeviceRunsAlreadyIsPassedOver)
 {
@@ -76,7 +76,7 @@ TEST_F(CheckDiff, WhatTheDeviceRunsAlreadyIsPassedOver)
     expect(quoted, "{}", {});
 }
 
-TEST_F(CheckDiff, NewValueWithTheFlawOfTheOldOneIsTold)
+TEST_F(CheckDiff, NewValueWithTheFlawOfTheOldOneIsReported)
 {
     expect(quoted, R"({"system": {"network": {"hostname": "olt\"18"}}})",
            {R"(system.network.hostname: "olt\"18" holds a quote)"});
@@ -87,7 +87,7 @@ TEST_F(CheckDiff, AllTellsOfEqualValuesToo)
     expect(quoted, quoted, {quote_finding}, {"--all"});
 }
 
-TEST_F(CheckDiff, WhatComesIntoUseIsTold)
+TEST_F(CheckDiff, WhatComesIntoUseIsReported)
 {
     expect(pon(R"("ont": {"3": {"description": "\""}})"), pon(R"("ont": {"3": {"exist": true, "description": "\""}})"),
            {R"(pon.ont.3.description: "\"" holds a quote)"});
@@ -103,7 +103,7 @@ TEST_F(CheckDiff, WhatGoesOutOfUseIsPassedOver)
            {});
 }
 
-TEST_F(CheckDiff, ReferenceWhoseProfileGoesIsTold)
+TEST_F(CheckDiff, ReferenceWhoseProfileGoesIsReported)
 {
     const std::string ont = R"("ont": {"3": {"exist": true, "profile_ont_ports": 4, "profile_ont_voice": 0}})";
     expect(pon(ont + R"(, "profiles_ont": {"ports": {"4": {"exist": true, "name": "four"}},
@@ -114,7 +114,7 @@ TEST_F(CheckDiff, ReferenceWhoseProfileGoesIsTold)
     expect(pon(ont), pon(ont), {});
 }
 
-TEST_F(CheckDiff, NameThatComesToBeSharedIsTold)
+TEST_F(CheckDiff, NameThatComesToBeSharedIsReported)
 {
     const std::string first = R"("4": {"exist": true, "name": "homes"})";
     expect(pon(R"("profiles_olt": {"vlan": {)" + first + "}}"),
@@ -123,7 +123,7 @@ TEST_F(CheckDiff, NameThatComesToBeSharedIsTold)
             R"(pon.profiles_olt.vlan.4.name: "homes" is also the name of pon.profiles_olt.vlan.0)"});
 }
 
-TEST_F(CheckDiff, ZeroThatIsSetIsTold)
+TEST_F(CheckDiff, ZeroThatIsSetIsReported)
 {
     expect(pon(R"("ont": {"3": {"exist": true, "profile_ont_ports": 4}})"), pon(R"("ont": {"3": {"exist": true}})"),
            {"pon.ont.3.profile_ont_ports: there is no ports profile 0"});
@@ -190,7 +190,7 @@ TEST_F(CheckDiff, StrictWritesNoScript)
     EXPECT_THAT(names(), ElementsAre("cfg.json", "orig.json"));
 }
 
-TEST_F(CheckDiff, StrictIsTroubleThoughNothingIsToDo)
+TEST_F(CheckDiff, StrictIsAnErrorThoughNothingIsToDo)
 {
     // Entering the view of a profile whose name is taken creates none.
     const std::string first = R"("4": {"exist": true, "name": "homes"})";
@@ -202,7 +202,7 @@ TEST_F(CheckDiff, StrictIsTroubleThoughNothingIsToDo)
     EXPECT_EQ(outcome.status, 2);
 }
 
-TEST_F(CheckDiff, StrictLetsPassWhatIsNotTold)
+TEST_F(CheckDiff, StrictLetsPassWhatIsNotReported)
 {
     const Outcome outcome =
         between(quoted, R"({"system": {"network": {"hostname": "olt\"17", "dscp": 46}}})", {"--strict"});

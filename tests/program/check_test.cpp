@@ -364,7 +364,7 @@ TEST_F(Check, ExampleConfigurationsAreInOrder)
     }
 }
 
-TEST_F(Check, StrictIsTroubleWhereSomethingIsFound)
+TEST_F(Check, StrictIsAnErrorWhereSomethingIsFound)
 {
     const Outcome outcome = of(hostname("$ID0"), {"--strict"});
     EXPECT_EQ(outcome.out, "cfg.json: system.network.hostname: \"$ID0\" holds a placeholder\n");
@@ -385,7 +385,7 @@ TEST_F(Check, RecordAndStandardInput)
               "standard input: system.network.hostname: \"olt\\\"1\" holds a quote\n");
 }
 
-TEST_F(Check, TroubleIsTold)
+TEST_F(Check, ErrorsAreReported)
 {
     EXPECT_EQ(run({"check", "absent"}).err, "pondiff: absent: No such file or directory\n");
     EXPECT_EQ(run({"check"}).err, "pondiff: FILE is required\nTry 'pondiff check --help'.\n");

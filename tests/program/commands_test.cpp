@@ -133,7 +133,7 @@ TEST_F(Show, FromStandardInputToAFile)
     EXPECT_EQ(read("cfg.json"), run({"show", "cfg.bin"}).out);
 }
 
-TEST_F(Show, WrongSizeIsTrouble)
+TEST_F(Show, WrongSizeIsAnError)
 {
     write("cfg.bin", "short");
     const Outcome outcome = run({"show", "cfg.bin", "-o", "cfg.json"});
@@ -159,7 +159,7 @@ class CommandLine : public ProgramTest {
     }
 };
 
-TEST_F(CommandLine, MistakesAreToldAndEndInTrouble)
+TEST_F(CommandLine, MistakesAreErrors)
 {
     write("a.json", "{}");
     const std::vector<std::pair<Arguments, std::string>> mistakes{

@@ -63,7 +63,7 @@ constexpr Silent silent_fields[] = {
     {"pon.olt.general.redundancy", "no command"},
     {"pon.olt.general.l3.**", "no command"},
     {"pon.olt.general.pppoeia_shaper", "no command"},
-    {"pon.olt.general.profile_olt_dhcpra_redefinition.*.exist", "an entry is told by its VLAN and profile"},
+    {"pon.olt.general.profile_olt_dhcpra_redefinition.*.exist", "an entry is identified by its VLAN and profile"},
     {"pon.olt.general.profile_olt_dhcpv6ra_redefinition.*.exist", "the same"},
     {"pon.olt.general.dba_excess_allocations", "seen only together with the reduced latency"},
     {"pon.olt.general.dba_short_cycle.gpon_port.1", "the even port of a pair decides for both"},

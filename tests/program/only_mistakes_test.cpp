@@ -84,7 +84,7 @@ TEST_F(OnlyMistakes, ProfileBeyondTheArray)
         expect_mistake(area, "no such template; there are 0 to 31");
 }
 
-TEST_F(OnlyMistakes, MistakeIsToldBeforeAnyFileIsRead)
+TEST_F(OnlyMistakes, MistakeIsReportedBeforeAnyFileIsRead)
 {
     const Outcome outcome = run({"diff", "--only", "port:8", "absent", "absent", "-o", "script"});
     EXPECT_THAT(outcome.err, StartsWith("pondiff: --only port:8: no such GPON port"));

@@ -97,14 +97,14 @@ class Only : public ProgramTest {
     void expect_nothing_to_do(const std::string& area, const std::string& verbatim,
                               const std::string& fields = "") const
     {
-        const std::string told = fields.empty() ? "" : "pondiff: " + fields + " without a command in this scope\n";
+        const std::string warning = fields.empty() ? "" : "pondiff: " + fields + " without a command in this scope\n";
         const Outcome quiet = of(area);
         EXPECT_EQ(quiet.out, "") << area;
-        EXPECT_EQ(quiet.err, told) << area;
+        EXPECT_EQ(quiet.err, warning) << area;
         EXPECT_EQ(quiet.status, 0) << area;
         const Outcome outcome = of(area, {"--verbatim"});
         EXPECT_EQ(outcome.out, verbatim) << area;
-        EXPECT_EQ(outcome.err, told) << area;
+        EXPECT_EQ(outcome.err, warning) << area;
         EXPECT_EQ(outcome.status, 0) << area;
     }
 };

@@ -37,7 +37,7 @@ class Writing : public ProgramTest {
         return run({"--version"}, as_somebody_else()).status == 0;
     }
 
-    static void expect_trouble(const Outcome& outcome, const std::string& message)
+    static void expect_error(const Outcome& outcome, const std::string& message)
     {
         EXPECT_EQ(outcome.out, "");
         EXPECT_EQ(outcome.err, message);
@@ -107,10 +107,10 @@ TEST_F(Writing, SymbolicLinkToNothingGetsItsTarget)
     EXPECT_EQ(read("scripts/today"), script);
 }
 
-TEST_F(Writing, SymbolicLinkToItselfIsTrouble)
+TEST_F(Writing, SymbolicLinkToItselfIsAnError)
 {
     std::filesystem::create_symlink("script", path("script"));
-    expect_trouble(write_script_to("script"), "pondiff: script: Too many levels of symbolic links\n");
+    expect_error(write_script_to("script"), "pondiff: script: Too many levels of symbolic links\n");
 }
 
 // Times and sizes have 64 bits on every processor.
@@ -159,11 +159,11 @@ TEST_F(Writing, FileMayBeOneThatWasRead)
 
 TEST_F(Writing, FileThatCannotBeMadeIsNamedWithTheReason)
 {
-    expect_trouble(write_script_to("absent/script"), "pondiff: absent/script: No such file or directory\n");
-    expect_trouble(write_script_to("cfg.json/script"), "pondiff: cfg.json/script: Not a directory\n");
-    expect_trouble(write_script_to("."), "pondiff: .: Is a directory\n");
-    expect_trouble(write_script_to(""), "pondiff: '': No such file or directory\n");
-    expect_trouble(write_script_to(std::string(300, 'x')),
+    expect_error(write_script_to("absent/script"), "pondiff: absent/script: No such file or directory\n");
+    expect_error(write_script_to("cfg.json/script"), "pondiff: cfg.json/script: Not a directory\n");
+    expect_error(write_script_to("."), "pondiff: .: Is a directory\n");
+    expect_error(write_script_to(""), "pondiff: '': No such file or directory\n");
+    expect_error(write_script_to(std::string(300, 'x')),
                    "pondiff: " + std::string(300, 'x') + ": File name too long\n");
     EXPECT_THAT(names(), ElementsAre("cfg.json", "orig.json"));
 }
@@ -176,15 +176,15 @@ TEST_F(Writing, FileThatMayNotBeWrittenIsLeftAlone)
     std::filesystem::permissions(path("."), std::filesystem::perms(0777));
     write("script", "old\n");
     std::filesystem::permissions(path("script"), std::filesystem::perms(0444));
-    expect_trouble(write_script_to("script", surroundings), "pondiff: script: Permission denied\n");
+    expect_error(write_script_to("script", surroundings), "pondiff: script: Permission denied\n");
     EXPECT_EQ(read("script"), "old\n");
 
     std::filesystem::permissions(path("cfg.json"), std::filesystem::perms(0));
-    expect_trouble(write_script_to("new", surroundings), "pondiff: cfg.json: Permission denied\n");
+    expect_error(write_script_to("new", surroundings), "pondiff: cfg.json: Permission denied\n");
 
     std::filesystem::permissions(path("cfg.json"), std::filesystem::perms(0444));
     std::filesystem::permissions(path("."), std::filesystem::perms(0555));
-    expect_trouble(write_script_to("new", surroundings), "pondiff: new: Permission denied\n");
+    expect_error(write_script_to("new", surroundings), "pondiff: new: Permission denied\n");
     std::filesystem::permissions(path("."), std::filesystem::perms(0755));
     EXPECT_THAT(names(), ElementsAre("cfg.json", "orig.json", "script"));
 }
@@ -194,16 +194,16 @@ TEST_F(Writing, FileThatGrowsTooLargeLeavesTheOldOneAndNothingElse)
     write("cfg.bin", "old\n");
     Surroundings surroundings;
     surroundings.largest_file = 100000;
-    expect_trouble(run({"pack", "cfg.json", "-o", "cfg.bin"}, surroundings), "pondiff: cfg.bin: File too large\n");
+    expect_error(run({"pack", "cfg.json", "-o", "cfg.bin"}, surroundings), "pondiff: cfg.bin: File too large\n");
     EXPECT_EQ(read("cfg.bin"), "old\n");
-    expect_trouble(run({"pack", "cfg.json", "-o", "new.bin"}, surroundings), "pondiff: new.bin: File too large\n");
+    expect_error(run({"pack", "cfg.json", "-o", "new.bin"}, surroundings), "pondiff: new.bin: File too large\n");
     EXPECT_THAT(names(), ElementsAre("cfg.bin", "cfg.json", "orig.json"));
 }
 
 TEST_F(Writing, DiskThatFailsLeavesTheOldFileAndNothingElse)
 {
     write("cfg.bin", "old\n");
-    expect_trouble(run({"pack", "cfg.json", "-o", "cfg.bin"}, with_other_library("TEST_DISK_FAILS=1")),
+    expect_error(run({"pack", "cfg.json", "-o", "cfg.bin"}, with_other_library("TEST_DISK_FAILS=1")),
                    "pondiff: cfg.bin: Input/output error\n");
     EXPECT_EQ(read("cfg.bin"), "old\n");
     EXPECT_THAT(names(), ElementsAre("cfg.bin", "cfg.json", "orig.json"));
@@ -236,8 +236,8 @@ TEST_F(Writing, DeviceIsWrittenTo)
         GTEST_SKIP() << "the program is out of the reach of others";
     std::filesystem::permissions(path("."), std::filesystem::perms(0777));
     std::filesystem::create_symlink("/dev/full", path("full"));
-    expect_trouble(write_script_to("/dev/full", as_somebody_else()), "pondiff: /dev/full: No space left on device\n");
-    expect_trouble(write_script_to("full", as_somebody_else()), "pondiff: full: No space left on device\n");
+    expect_error(write_script_to("/dev/full", as_somebody_else()), "pondiff: /dev/full: No space left on device\n");
+    expect_error(write_script_to("full", as_somebody_else()), "pondiff: full: No space left on device\n");
     EXPECT_EQ(write_script_to("/dev/null", as_somebody_else()).status, 1);
     EXPECT_THAT(names(), ElementsAre("cfg.json", "full", "orig.json"));
     EXPECT_TRUE(std::filesystem::is_symlink(path("full")));
@@ -262,7 +262,7 @@ TEST_F(Writing, StandardOutputThatIsFull)
     surroundings.output_file = "/dev/full";
     for (const Arguments& arguments : {Arguments{"diff", "orig.json", "cfg.json"}, Arguments{"show", "cfg.json"},
                                        Arguments{"pack", "cfg.json", "-o", "-"}, Arguments{"--help"}})
-        expect_trouble(run(arguments, surroundings), "pondiff: standard output: No space left on device\n");
+        expect_error(run(arguments, surroundings), "pondiff: standard output: No space left on device\n");
 }
 
 TEST_F(Writing, StandardOutputThatNobodyReads)
@@ -271,14 +271,14 @@ TEST_F(Writing, StandardOutputThatNobodyReads)
     surroundings.reader_gone = true;
     for (const Arguments& arguments : {Arguments{"diff", "orig.json", "cfg.json"}, Arguments{"show", "cfg.json"},
                                        Arguments{"pack", "cfg.json", "-o", "-"}, Arguments{"diff", "--help"}})
-        expect_trouble(run(arguments, surroundings), "pondiff: standard output: Broken pipe\n");
+        expect_error(run(arguments, surroundings), "pondiff: standard output: Broken pipe\n");
 }
 
 TEST_F(Writing, StandardOutputThatIsClosed)
 {
     Surroundings surroundings;
     surroundings.closed = {STDOUT_FILENO};
-    expect_trouble(run({"diff", "orig.json", "cfg.json"}, surroundings),
+    expect_error(run({"diff", "orig.json", "cfg.json"}, surroundings),
                    "pondiff: standard output: Bad file descriptor\n");
     EXPECT_EQ(write_script_to("script", surroundings).status, 1);
     EXPECT_EQ(read("script"), script);

@@ -15,30 +15,29 @@ namespace pondiff::tool {
 namespace {
 
 constexpr char details[] =
-    R"(Values go into a script as they are stored. Looks for those that no script can
-carry and prints a line for each: the file, the path of the field and what is
-wrong. Passwords and other secrets are not shown.
+    R"(Values go into a script as they are stored. This command looks for values that
+no script can carry. It prints a line for each: the file, the path of the field
+and what is wrong. It does not show passwords and other secrets.
 
   quote              In a text: it ends the argument of the command early
-  control character  In a text: behind a line feed begins another command
+  control character  In a text: what follows a line feed is another command
   placeholder        In a text, such as $ID0: the script has a number there
-  no end             Of a text, which fills its field
-  shared name        Of profiles of one kind, of terminal VLANs or of users
+  no end             A text fills its field; there is no terminator
+  shared name        Profiles of one kind, terminal VLANs or users share a name
   no such object     A reference to a profile or a terminal VLAN that does not
                      exist: it has no command, or a wrong one
-  no word            For the value of an enumeration
+  no word            The value of an enumeration has no word in the CLI
 
-Free slots are passed over. So are quotes, control characters and placeholders
-in texts that no command shows, and what may just have been left out of a
-document: an enumeration at 0, and a profile that is 0 where slot 0 is free,
-unless the same record has another one that is -1, which stands for none. In a
-template, the profiles count that it defines.
+Free slots are not checked. Quotes, control characters and placeholders are
+allowed in texts that no command shows. A zero is allowed where a document may
+just have left it out: an enumeration at 0, and a reference to profile 0 where
+slot 0 is free, unless another reference in the same record is -1, which stands
+for none. In a template, every reference that it defines is checked.
 
 Exit status:
   0  nothing was found
   1  lines were printed
-  2  trouble: an unreadable file, a mistake in a document, no room to write;
-     with --strict, lines were printed
+  2  error; see standard error. With --strict, lines were printed
 
 Examples:
   pondiff check wanted.json
@@ -54,13 +53,13 @@ ExitStatus run(const Arguments& arguments)
     const std::unique_ptr<GCfg> configuration = read_configuration(arguments.configuration);
     const std::vector<Finding> findings = check(*configuration);
     if (findings.empty())
-        return success;
+        return ExitStatus::success;
     const std::string name = name_of_input(arguments.configuration);
     std::string text;
     for (const Finding& finding : findings)
         fmt::format_to(std::back_inserter(text), "{}: {}: {}\n", name, finding.path, finding.text);
     write_file(standard_stream, text);
-    return arguments.strict ? trouble : found;
+    return arguments.strict ? ExitStatus::error : ExitStatus::found;
 }
 
 std::function<ExitStatus()> setup(CLI::App& command)

@@ -156,7 +156,7 @@ std::function<ExitStatus()> setup(CLI::App& command)
     command.footer(details);
     return [words, &program = *command.get_parent()] {
         write_file(standard_stream, candidates_for(program, *words));
-        return success;
+        return ExitStatus::success;
     };
 }
 

@@ -4,6 +4,7 @@
 #include "tool/commands/candidates.h"
 #include "tool/commands/commands.h"
 #include "tool/describe/description.h"
+#include "tool/errors.h"
 #include "tool/files.h"
 #include "tool/messages.h"
 #include "tool/script.h"
@@ -23,42 +24,42 @@ namespace {
 
 std::string details()
 {
-    return R"(Prints the script that takes a device from the configuration ORIG, which it
-runs, to the configuration CFG, which is wanted: CLI commands, one per line,
-from the top level of the CLI back to it, closed by "commit".
+    return R"(Prints the script that changes a device from the configuration ORIG, which it
+runs, to the configuration CFG: CLI commands, one per line, which begin and end
+at the top level of the CLI. The last one is "commit".
 
-A script that would change nothing is not printed. That is one of nothing but
-moves from view to view: "configure terminal", "exit", the line that enters the
-view of a port, an ONT or a profile that ORIG holds, the line that declares a
-terminal VLAN by a name that ORIG holds, and "commit". Entering the view of an
-ONT or a profile that ORIG does not hold creates it, so that counts as a change.
+A script that would change nothing is not printed. Such a script consists of
+moves between views and "commit". Moves are "configure terminal", "exit", the
+line that enters the view of a port, an ONT or a profile that ORIG has, and the
+line that declares a terminal VLAN by a name that ORIG has. To enter the view of
+an ONT or a profile that ORIG does not have creates it, so that is a change.
 
 Some fields have no command, or none in the scope asked for. When the script
-changes nothing although the configurations differ, one line on standard error
-tells how many fields do; with --only, those of the area are counted.
+changes nothing although the configurations differ, a warning says how many
+fields differ; with --only, how many fields of the area.
 
-Values go into the script as they are stored. One that no script can carry, such
-as a description with a quote in it, is told on standard error, by the path of
-its field in CFG, unless ORIG has the same there; with --all in any case.
-"pondiff check --help" tells which values those are.
+Values go into the script as they are stored. A warning names each value that no
+script can carry, such as a description with a quote in it, unless ORIG has the
+same value in the same field; with --all it names them all. For these values see
+"pondiff check --help".
 
 Areas that --only takes:
 )" + list_of_areas() +
            R"(
-The script of an area begins at the top level. That of most areas ends there,
-closed by "commit"; "commit" is missing behind ont and port. The scripts of
-system, pon and terminal-vlans end in the view of their last command, without
-"exit" and "commit".
+The script of an area begins at the top level. For most areas it ends there with
+"commit". The scripts of ont and port have no "commit". The scripts of system,
+pon and terminal-vlans end in the view of their last command, without "exit" and
+"commit".
 
-With -o, FILE is replaced as a whole or, when anything fails, left as it was. It
+With -o, FILE is replaced as a whole or, after an error, left as it was. It
 keeps its mode; a symbolic link stays and the file that it points to is
-replaced. When nothing is to be printed, FILE is left alone, be it there or not.
+replaced. When nothing is to be printed, FILE is not touched.
 
 Exit status:
   0  there is nothing to do
   1  a script was written
-  2  trouble: an unreadable file, a mistake in a document, no room to write;
-     with --strict, a value that no script can carry
+  2  error; see standard error. With --strict, CFG has a value that no script
+     can carry
 
 Examples:
   pondiff diff running.bin wanted.json
@@ -100,57 +101,43 @@ std::string script_of(const Area& area, GCfg& orig, GCfg& cfg, const Arguments& 
     return text.get();
 }
 
-/// Tells of the values in an area that no script can carry; true when there are any.
-bool tell_of_findings(const Area& area, const GCfg& orig, const GCfg& cfg, const Arguments& arguments)
+/// Warns of the values in an area that no script can carry; true when there are any.
+bool warn_of_findings(const Area& area, const GCfg& orig, const GCfg& cfg, const Arguments& arguments)
 {
     bool any = false;
     for (const Finding& finding : check_change(orig, cfg, arguments.all)) {
         if (!overlaps(area.records, finding.offset, finding.size))
             continue;
-        tell(fmt::format("{}: {}: {}", name_of_input(arguments.cfg), finding.path, finding.text));
+        report_warning(fmt::format("{}: {}: {}", name_of_input(arguments.cfg), finding.path, finding.text));
         any = true;
     }
     return any;
 }
 
-void tell_of_silent_fields(std::size_t count)
+void warn_of_silent_fields(std::size_t count)
 {
     if (count == 1)
-        tell("1 field differs without a command in this scope");
+        report_warning("1 field differs without a command in this scope");
     else if (count != 0)
-        tell(fmt::format("{} fields differ without a command in this scope", count));
+        report_warning(fmt::format("{} fields differ without a command in this scope", count));
 }
 
 ExitStatus run(const Area& area, const Arguments& arguments)
 {
     const std::unique_ptr<GCfg> orig = read_configuration(arguments.orig);
     const std::unique_ptr<GCfg> cfg = read_configuration(arguments.cfg);
-    if (tell_of_findings(area, *orig, *cfg, arguments) && arguments.strict) {
-        tell("no script is written: --strict");
-        return trouble;
-    }
+    if (warn_of_findings(area, *orig, *cfg, arguments) && arguments.strict)
+        throw Error("no script is written: --strict");
     const std::string script = script_of(area, *orig, *cfg, arguments);
     const bool nothing_to_do = changes_nothing(script, *orig);
     if (!nothing_to_do || (arguments.verbatim && !script.empty()))
         write_file(arguments.output, script);
     if (!nothing_to_do)
-        return script_written;
+        return ExitStatus::script_written;
     // With the common records alone, what differs elsewhere has no command in this scope either.
-    tell_of_silent_fields(!arguments.only ? count_differing_fields(*orig, *cfg)
+    warn_of_silent_fields(!arguments.only ? count_differing_fields(*orig, *cfg)
                                           : count_differing_fields(*orig, *cfg, area.records));
-    return success;
-}
-
-Area chosen_area(const Arguments& arguments)
-{
-    if (!arguments.only)
-        return whole_configuration(arguments.common);
-    try {
-        return area_named(*arguments.only);
-    } catch (const UnknownArea& error) {
-        throw CLI::ParseError(fmt::format("--only {}: {}", *arguments.only, error.what()),
-                              CLI::ExitCodes::ValidationError);
-    }
+    return ExitStatus::success;
 }
 
 std::function<ExitStatus()> setup(CLI::App& command)
@@ -192,8 +179,8 @@ std::function<ExitStatus()> setup(CLI::App& command)
     command.footer(details());
     return [arguments] {
         if (arguments->orig == standard_stream && arguments->cfg == standard_stream)
-            throw CLI::ParseError("only one of ORIG and CFG can be standard input", CLI::ExitCodes::ValidationError);
-        return run(chosen_area(*arguments), *arguments);
+            throw UsageError("only one of ORIG and CFG can be standard input");
+        return run(arguments->only ? area_named(*arguments->only) : whole_configuration(arguments->common), *arguments);
     };
 }
 

@@ -15,11 +15,11 @@ constexpr char details[] =
 document leaves out is zero. "pondiff show" is the way back; a record that was
 shown and packed again is the same, byte for byte.
 
-RECORD is replaced as a whole or, when anything fails, left as it was.
+RECORD is replaced as a whole or, after an error, left as it was.
 
 Exit status:
   0  the record was written
-  2  trouble: an unreadable file, a mistake in the document, no room to write
+  2  error; see standard error
 
 Examples:
   pondiff pack wanted.json -o wanted.bin
@@ -34,7 +34,7 @@ ExitStatus run(const Arguments& arguments)
 {
     const std::unique_ptr<GCfg> record = read_configuration(arguments.document);
     write_file(arguments.record, {reinterpret_cast<const char*>(record.get()), sizeof(GCfg)});
-    return success;
+    return ExitStatus::success;
 }
 
 std::function<ExitStatus()> setup(CLI::App& command)

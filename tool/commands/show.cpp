@@ -16,11 +16,11 @@ diff" read. The document leaves out every field that is zero. A document may be
 shown as well: what comes out is the same configuration in the usual order and
 notation.
 
-With -o, FILE is replaced as a whole or, when anything fails, left as it was.
+With -o, FILE is replaced as a whole or, after an error, left as it was.
 
 Exit status:
   0  the document was written
-  2  trouble: an unreadable file, a mistake in a document, no room to write
+  2  error; see standard error
 
 Examples:
   pondiff show running.bin | less
@@ -36,7 +36,7 @@ ExitStatus run(const Arguments& arguments)
 {
     const std::unique_ptr<GCfg> record = read_configuration(arguments.configuration);
     write_file(arguments.output, write_json(*record, arguments.full));
-    return success;
+    return ExitStatus::success;
 }
 
 std::function<ExitStatus()> setup(CLI::App& command)

@@ -16,17 +16,12 @@
 ///   them their flags: {"100": true, "200-210": 2}.
 
 #include "gcfg/gcfg.h"
+#include "tool/errors.h"
 
-#include <stdexcept>
 #include <string>
 #include <string_view>
 
 namespace pondiff::tool {
-
-/// What is wrong with an input, complete with the file and the place: "cfg.json: pon.ont.600: index 600, but ...".
-struct InputError : std::runtime_error {
-    using std::runtime_error::runtime_error;
-};
 
 /// Fills the whole record from the document; `file` is what messages call it. Throws InputError, which leaves the
 /// record partly filled.

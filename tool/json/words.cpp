@@ -12,7 +12,7 @@ namespace pondiff::tool {
 
 namespace {
 
-/// The registry does not tell which values have words. Those of every enumeration lie below this one.
+/// The registry does not say which values have words. In every enumeration they lie below this one.
 constexpr int VALUES_ASKED = 1024;
 /// The registry is asked for 16 bits.
 constexpr std::int64_t LARGEST_VALUE = 0xFFFF;
