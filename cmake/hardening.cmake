@@ -1,6 +1,7 @@
 # What the compiler and the linker can do against mistakes that nobody has found yet, for what is installed. Flags that
 # this compiler or processor lacks are left out. A sanitized build has stricter checks of its own, an unoptimised one
-# cannot have these.
+# cannot have these. -fcf-protection is not among them: a file takes part in it only when all that it is linked of does,
+# and the objects that libc puts into each file do not.
 option(PONDIFF_HARDEN "Build with the hardening that the compiler has" ON)
 add_library(pondiff-hardening INTERFACE)
 if(NOT PONDIFF_HARDEN OR PONDIFF_SANITIZE OR CMAKE_BUILD_TYPE STREQUAL "Debug")
@@ -23,7 +24,7 @@ endfunction()
 foreach(flag
         -fstack-protector-strong -fstack-clash-protection -ftrivial-auto-var-init=zero
         -fno-strict-aliasing -fno-strict-overflow -fno-delete-null-pointer-checks
-        -fcf-protection=full -mbranch-protection=standard)
+        -mbranch-protection=standard)
     harden_where_possible(${flag})
 endforeach()
 target_compile_options(pondiff-hardening INTERFACE

@@ -269,24 +269,27 @@ TEST(JsonFlagSets, AreChecked)
 
 // ---------------------------------------------------------------------------------------------------------- syntax
 
+/// Where the error is; what is wrong there, the reader says in its own words, which differ from version to version.
+std::string place_of_error(const std::string& document)
+{
+    const std::string error = error_of(document);
+    const std::size_t end = error.find(": ");
+    EXPECT_GT(error.size(), end + 10) << error;
+    return error.substr(0, end);
+}
+
 TEST(JsonSyntax, ErrorsTellLineAndColumn)
 {
-    EXPECT_EQ(error_of("{\n  \"system\": {\n    \"user\": }\n}"),
-              "cfg.json:3:13: syntax error while parsing value - unexpected '}'; expected '[', '{', or a literal");
-    EXPECT_EQ(error_of("{\"pon\": {}"),
-              "cfg.json:1:11: syntax error while parsing object - unexpected end of input; expected '}'");
-    EXPECT_EQ(error_of("{\"pon\": {},}"),
-              "cfg.json:1:12: syntax error while parsing object key - unexpected '}'; expected string literal");
-    EXPECT_EQ(error_of("{}\n{}"), "cfg.json:2:1: syntax error while parsing value - unexpected '{'; expected end of "
-                                  "input");
-    EXPECT_EQ(error_of(""),
-              "cfg.json:1:1: syntax error while parsing value - unexpected end of input; expected '[', '{', or a "
-              "literal");
-    EXPECT_EQ(error_of("{\"pon\"\n: tru}").substr(0, 13), "cfg.json:2:6:");
+    EXPECT_EQ(place_of_error("{\n  \"system\": {\n    \"user\": }\n}"), "cfg.json:3:13");
+    EXPECT_EQ(place_of_error("{\"pon\": {}"), "cfg.json:1:11");
+    EXPECT_EQ(place_of_error("{\"pon\": {},}"), "cfg.json:1:12");
+    EXPECT_EQ(place_of_error("{}\n{}"), "cfg.json:2:1");
+    EXPECT_EQ(place_of_error(""), "cfg.json:1:1");
+    EXPECT_EQ(place_of_error("{\"pon\"\n: tru}"), "cfg.json:2:6");
+    EXPECT_EQ(place_of_error("{\"pon\": {}}\xFF"), "cfg.json:1:12");
+    EXPECT_EQ(place_of_error("{\n// no comments\n}"), "cfg.json:2:1");
     EXPECT_EQ(error_of(in_network("\"mngmtvlan\": 1e999")), "cfg.json:1:42: number too large");
-    EXPECT_EQ(error_of("{\"pon\": {}}\xFF").substr(0, 14), "cfg.json:1:12:");
     EXPECT_EQ(error_of(std::string("{\n}\0 {}", 6)), "cfg.json:2:2: a zero byte, which no JSON document holds");
-    EXPECT_EQ(error_of("{\n// no comments\n}").substr(0, 13), "cfg.json:2:1:");
 }
 
 TEST(JsonSyntax, AByteOrderMarkIsSkipped)

@@ -1,8 +1,11 @@
 /*
  * Prints the commands that turn one configuration into another, both given as files of the packed record.
  *
- *     cc -std=c11 -o print_script print_script.c $(pkg-config --cflags --libs pondiff)
+ *     cc -std=c11 -o print_script print_script.c $(pkg-config --cflags --libs pondiff) \
+ *         -Wl,-rpath,$(pkg-config --variable=libdir pondiff)
  *     ./print_script running.bin wanted.bin
+ *
+ * The second line is for a library outside the loader's folders.
  */
 #include <pondiff.h>
 #include <stdio.h>

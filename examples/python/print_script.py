@@ -2,6 +2,10 @@
 """Prints the commands that turn one configuration into another, both given as files of the packed record.
 
     ./print_script.py running.bin wanted.bin
+
+Where the library is outside the loader's folders:
+
+    LD_LIBRARY_PATH=$(pkg-config --variable=libdir pondiff) ./print_script.py running.bin wanted.bin
 """
 
 import ctypes

@@ -41,10 +41,12 @@ consumers() {
 
     export PKG_CONFIG_PATH=$libraries/pkgconfig
     pkg-config --validate pondiff
-    # shellcheck disable=SC2046 # a list of options
-    "${CC:-cc}" -std=c11 -Wall -Wextra -Wpedantic -Werror -o c "$source/examples/c/print_script.c" \
-        $(pkg-config --cflags --libs pondiff)
-    LD_LIBRARY_PATH=$libraries ./c orig.bin cfg.bin >c.script
+    # The commands are those of the examples themselves.
+    local command
+    command=$(sed -n 's/^ \*     \(cc .*\|    .*\)/\1/p' "$source/examples/c/print_script.c" |
+        sed "s|\\\\$||; s|^cc |${CC:-cc} -Wall -Wextra -Wpedantic -Werror |; s| print_script\.c| '$source/examples/c/print_script.c'|")
+    eval "${command//$'\n'/ }" || fail "the command of the example in C fails: $command"
+    env -u LD_LIBRARY_PATH ./print_script orig.bin cfg.bin >c.script
     expect_script c.script
 
     cmake -S "$source/examples/cpp" -B cpp -DCMAKE_PREFIX_PATH="$prefix" \
@@ -53,7 +55,11 @@ consumers() {
     cpp/print_script orig.bin cfg.bin >cpp.script
     expect_script cpp.script
 
-    LD_LIBRARY_PATH=$libraries python3 "$source/examples/python/print_script.py" orig.bin cfg.bin >python.script
+    command=$(sed -n 's/^ *\(LD_LIBRARY_PATH=.*\)/\1/p' "$source/examples/python/print_script.py")
+    cp "$source/examples/python/print_script.py" .
+    ln -s orig.bin running.bin
+    ln -s cfg.bin wanted.bin
+    eval "$command" >python.script || fail "the command of the example in Python fails: $command"
     expect_script python.script
 
     [ -f "$prefix/share/zsh/site-functions/_pondiff" ] || fail "zsh does not look where its completion is"
