@@ -93,6 +93,10 @@ struct Record {
     std::size_t count;
     std::size_t size;
     bool brief; ///< few short fields: fits on a line
+    /// What tells an object of this kind from the others, and whether it is there; null where there is no such member.
+    const Field* name_member;
+    const Field* key_member;
+    const Field* existence_member;
 
     constexpr const Field* begin() const { return fields; }
     constexpr const Field* end() const { return fields + count; }

@@ -364,10 +364,29 @@ constexpr bool is_brief(const Field (&table)[N])
     return length <= 48;
 }
 
+/// Null when no line of the table is what is looked for.
+template <std::size_t N, class Is>
+constexpr const Field* first_member(const Field (&table)[N], Is is)
+{
+    for (const Field& field : table) {
+        if (is(field)) {
+            return &field;
+        }
+    }
+    return nullptr;
+}
+
 template <class Struct>
 template <std::size_t N>
 constexpr RecordOf<Struct>::RecordOf(const char* struct_name, const Field (&table)[N])
-    : Record{struct_name, table, N, sizeof(Struct), is_brief(table)}
+    : Record{struct_name,
+             table,
+             N,
+             sizeof(Struct),
+             is_brief(table),
+             first_member(table, [](const Field& field) { return field.name == "name"; }),
+             first_member(table, [](const Field& field) { return field.syntax.kind == Syntax::Kind::key; }),
+             first_member(table, [](const Field& field) { return field.syntax.kind == Syntax::Kind::existence; })}
 {
     static_assert(N <= MAX_FIELDS);
 }

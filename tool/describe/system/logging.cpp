@@ -7,13 +7,13 @@ static constexpr Syntax not_its_level = no_command("the level alone has a comman
 
 static constexpr Field log_destinations_fields[] = {
     enumeration(FIELD(GSystemLogDestCfg, system), "GPonLogLevel_enum",
-                says("logging system loglevel <system>").words(getCliSubmoduleLevel, "none")),
+                says("logging system loglevel <system>").words(getCliSubmoduleLevel)),
     enumeration(FIELD(GSystemLogDestCfg, console), "GPonLogLevel_enum",
-                says("logging console loglevel <console>").words(getCliSubmoduleLevel, "none")),
+                says("logging console loglevel <console>").words(getCliSubmoduleLevel)),
     enumeration(FIELD(GSystemLogDestCfg, remotes), "GPonLogLevel_enum",
-                says("logging rsh loglevel <remotes>").words(getCliSubmoduleLevel, "none")),
+                says("logging rsh loglevel <remotes>").words(getCliSubmoduleLevel)),
     enumeration(FIELD(GSystemLogDestCfg, file), "GPonLogLevel_enum",
-                says("logging file loglevel <file>").words(getCliSubmoduleLevel, "none")),
+                says("logging file loglevel <file>").words(getCliSubmoduleLevel)),
 };
 DESCRIBE(GSystemLogDestCfg, log_destinations_record, log_destinations_fields);
 
@@ -29,7 +29,7 @@ DESCRIBE(GSystemSyslogCfg, syslog_record, syslog_fields);
 static constexpr Field submodule_fields[] = {
     number(FIELD(GSubmoduleLogCfg, revision), counter),
     enumeration(FIELD(GSubmoduleLogCfg, level), "GPonLogLevel_enum",
-                says("logging module <#> loglevel <level>").words(getCliSubmoduleLevel, "none")),
+                says("logging module <#> loglevel <level>").words(getCliSubmoduleLevel)),
     enumeration(FIELD(GSubmoduleLogCfg, dest), "GPonLogDest_enum", not_its_level),
     boolean(FIELD(GSubmoduleLogCfg, show_time), not_its_level),
     boolean(FIELD(GSubmoduleLogCfg, show_prog_name), not_its_level),

@@ -1,0 +1,291 @@
+#include "tool/account/meaning.h"
+
+#include "tool/describe/records.h"
+#include "tool/language/objects.h"
+
+#include <algorithm>
+#include <cstring>
+#include <map>
+#include <memory>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace pondiff::tool {
+
+namespace {
+
+bool is_text(const Field& field)
+{
+    return field.form == Form::text || field.form == Form::secret;
+}
+
+/// A text as far as it counts, its markers in one spelling.
+std::string text_meant(const Field& field, const unsigned char* at)
+{
+    std::string text(text_in(field, at));
+    if (field.syntax.longest != 0) {
+        text.resize(std::min<std::size_t>(text.size(), field.syntax.longest));
+    }
+    if (field.syntax.port_marker) {
+        constexpr std::string_view shown = "%GPON-PORT%";
+        for (std::size_t i = 0; (i = text.find(shown, i)) != text.npos;) {
+            text.replace(i, shown.size(), "%CHANNELID%");
+        }
+    }
+    return text;
+}
+
+/// The numbers of a list up to its end mark, in order.
+std::vector<std::int64_t> list_meant(const Field& field, const unsigned char* at)
+{
+    std::vector<std::int64_t> numbers;
+    for (std::size_t i = 0; i < field.count && get_number(field, at + i * field.width) != -1; ++i) {
+        numbers.push_back(get_number(field, at + i * field.width));
+    }
+    std::sort(numbers.begin(), numbers.end());
+    return numbers;
+}
+
+/// A reference is the name of what it refers to, or none; a number that refers to nothing may mean itself.
+struct ReferenceMeant {
+    enum class Kind : std::uint8_t { none, name, number } kind;
+    std::string_view name;
+    std::int64_t number = 0;
+
+    bool operator==(const ReferenceMeant& other) const
+    {
+        return kind == other.kind && name == other.name && number == other.number;
+    }
+};
+
+ReferenceMeant reference_meant(const Field& field, const unsigned char* at, const GCfg& configuration)
+{
+    using Kind = ReferenceMeant::Kind;
+    const std::int64_t number = get_number(field, at);
+    const std::int64_t slot = slot_referred(field, number);
+    const auto to = referred(field.reference);
+    const bool to_profile = slot == number; // any number is one, of a profile
+    if (slot < 0 || slot >= to->field->count) {
+        return to_profile ? ReferenceMeant{Kind::none, {}} : ReferenceMeant{Kind::number, {}, number};
+    }
+    const auto* const object = reinterpret_cast<const unsigned char*>(&configuration) + to->offset +
+                               static_cast<std::size_t>(slot) * to->field->width;
+    if (!in_use(*to->field->record, object)) {
+        return {Kind::none, {}};
+    }
+    const Field& name = *to->field->record->name_member;
+    return {Kind::name, text_in(name, object + name.offset)};
+}
+
+template <std::size_t N>
+class SideBySide {
+  public:
+    using Places = std::array<const unsigned char*, N>;
+    using There = std::array<bool, N>;
+    using Visit = std::function<void(const Beside<N>&)>;
+
+    SideBySide(const std::array<const GCfg*, N>& configurations, const Visit& visit)
+        : configurations_(configurations), visit_(visit), blank_(blank_configuration())
+    {
+        Places places;
+        There there;
+        std::transform(configurations.begin(), configurations.end(), places.begin(),
+                       [](const GCfg* configuration) { return reinterpret_cast<const unsigned char*>(configuration); });
+        there.fill(true);
+        compare(gcfg_record, places, there, reinterpret_cast<const unsigned char*>(blank_.get()));
+    }
+
+  private:
+    void compare(const Record& record, const Places& places, const There& there, const unsigned char* blank)
+    {
+        for (const Field& field : record) {
+            Places inner;
+            for (std::size_t i = 0; i < N; ++i) {
+                inner[i] = places[i] + field.offset;
+            }
+            if (field.record == nullptr) {
+                compare_leaves(field, inner, there);
+            } else if (!field.array) {
+                step(field, 0, [&] { compare(*field.record, inner, there, blank + field.offset); });
+            } else if (is_told_by_number(field)) {
+                compare_numbered(field, inner, there, blank + field.offset);
+            } else {
+                compare_told(field, inner, there, blank + field.offset);
+            }
+        }
+    }
+
+    static bool is_told_by_number(const Field& array)
+    {
+        return array.element.told != Element::Told::by_name && array.element.told != Element::Told::by_key;
+    }
+
+    template <class Do>
+    void step(const Field& field, std::size_t index, const Do& inside)
+    {
+        path_.push(field, index);
+        ++steps_;
+        inside();
+        --steps_;
+        path_.pop();
+    }
+
+    /// One object of the configurations that have it; `slots` are where, and -1 where it is not there.
+    void compare_element(const Field& array, const Places& first, const There& there,
+                         const std::array<std::ptrdiff_t, N>& slots, const unsigned char* blank)
+    {
+        Places element;
+        There element_there = there;
+        std::size_t index = 0;
+        for (std::size_t i = 0; i < N; ++i) {
+            const bool in_slot = slots[i] >= 0;
+            element[i] = first[i] + (in_slot ? slots[i] : 0) * static_cast<std::ptrdiff_t>(array.width);
+            element_there[i] = there[i] && in_slot && in_use(*array.record, element[i]);
+            if (!element_there[i]) {
+                element[i] = blank;
+            } else {
+                index = static_cast<std::size_t>(slots[i]);
+            }
+        }
+        if (std::none_of(element_there.begin(), element_there.end(), [](bool one) { return one; })) {
+            return;
+        }
+        const std::size_t outer = std::exchange(object_, steps_ + 1);
+        step(array, index, [&] { compare(*array.record, element, element_there, blank); });
+        object_ = outer;
+    }
+
+    void compare_numbered(const Field& array, const Places& first, const There& there, const unsigned char* blank)
+    {
+        for (std::size_t slot = 0; slot < array.count; ++slot) {
+            std::array<std::ptrdiff_t, N> slots;
+            slots.fill(static_cast<std::ptrdiff_t>(slot));
+            compare_element(array, first, there, slots, blank);
+        }
+    }
+
+    /// Matches elements by what tells them; of several that are told alike, the first with the first, and so on.
+    void compare_told(const Field& array, const Places& first, const There& there, const unsigned char* blank)
+    {
+        const Field* const key = array.element.told == Element::Told::by_name
+                                     ? array.record->name_member
+                                     : array.record->key_member;
+        using Slots = std::array<std::vector<std::ptrdiff_t>, N>;
+        std::map<std::string_view, Slots> elements;
+        for (std::size_t i = 0; i < N; ++i) {
+            for (std::size_t slot = 0; there[i] && slot < array.count; ++slot) {
+                const unsigned char* const at = first[i] + slot * array.width;
+                if (in_use(*array.record, at)) {
+                    elements[identity(*key, at + key->offset)][i].push_back(static_cast<std::ptrdiff_t>(slot));
+                }
+            }
+        }
+        for (const auto& [told, slots] : elements) {
+            std::size_t bearers = 0;
+            for (const auto& of_one : slots) {
+                bearers = std::max(bearers, of_one.size());
+            }
+            for (std::size_t k = 0; k < bearers; ++k) {
+                std::array<std::ptrdiff_t, N> matched;
+                for (std::size_t i = 0; i < N; ++i) {
+                    matched[i] = k < slots[i].size() ? slots[i][k] : -1;
+                }
+                compare_element(array, first, there, matched, blank);
+            }
+        }
+    }
+
+    static std::string_view identity(const Field& key, const unsigned char* at)
+    {
+        return is_text(key) ? text_in(key, at) : std::string_view(reinterpret_cast<const char*>(at), key.width);
+    }
+
+    void compare_leaves(const Field& field, const Places& places, const There& there)
+    {
+        const bool whole = field.layout == Layout::ended_list;
+        for (std::size_t i = 0; i < (whole ? 1U : field.count); ++i) {
+            Places at;
+            for (std::size_t k = 0; k < N; ++k) {
+                at[k] = places[k] + i * field.width;
+            }
+            if (!mean_the_same(field, at, there)) {
+                path_.push(field, i);
+                visit_({field, at, there, path_, object_});
+                path_.pop();
+            }
+        }
+    }
+
+    bool mean_the_same(const Field& field, const Places& at, const There& there) const
+    {
+        if (field.syntax.kind == Syntax::Kind::existence || field.syntax.kind == Syntax::Kind::key) {
+            for (std::size_t i = 1; i < N; ++i) {
+                if (there[i] != there[0]) {
+                    return false;
+                }
+            }
+            if (field.syntax.kind == Syntax::Kind::existence) {
+                return true;
+            }
+        }
+        for (std::size_t i = 1; i < N; ++i) {
+            if (!means_the_same(field, at[0], *configurations_[0], at[i], *configurations_[i])) {
+                return false;
+            }
+        }
+        return true;
+    }
+
+    const std::array<const GCfg*, N> configurations_;
+    const Visit& visit_;
+    std::unique_ptr<GCfg> blank_;
+    Path path_;
+    std::size_t steps_ = 0;
+    std::size_t object_ = 0;
+};
+
+} // namespace
+
+bool means_the_same(const Field& field, const unsigned char* a, const GCfg& in_a, const unsigned char* b,
+                    const GCfg& in_b)
+{
+    if (field.syntax.kind == Syntax::Kind::counter) {
+        return true;
+    }
+    if (field.form == Form::reference) {
+        return reference_meant(field, a, in_a) == reference_meant(field, b, in_b);
+    }
+    const std::size_t size = field.layout == Layout::ended_list ? field.size : field.width;
+    if (std::memcmp(a, b, size) == 0) {
+        return true;
+    }
+    if (field.layout == Layout::ended_list) {
+        return list_meant(field, a) == list_meant(field, b);
+    }
+    if (field.form == Form::boolean) {
+        return (get_number(field, a) != 0) == (get_number(field, b) != 0);
+    }
+    return is_text(field) && text_meant(field, a) == text_meant(field, b);
+}
+
+void for_each_different_meaning(const std::array<const GCfg*, 2>& configurations,
+                                const std::function<void(const Beside<2>&)>& visit)
+{
+    SideBySide<2>(configurations, visit);
+}
+
+void for_each_different_meaning(const std::array<const GCfg*, 3>& configurations,
+                                const std::function<void(const Beside<3>&)>& visit)
+{
+    SideBySide<3>(configurations, visit);
+}
+
+bool mean_the_same(const GCfg& a, const GCfg& b)
+{
+    bool same = true;
+    for_each_different_meaning({&a, &b}, [&same](const Beside<2>&) { same = false; });
+    return same;
+}
+
+} // namespace pondiff::tool

@@ -1,0 +1,408 @@
+#include "tool/language/reader.h"
+
+#include "tool/language/notation.h"
+#include "tool/language/objects.h"
+
+#include <algorithm>
+#include <cstring>
+#include <fmt/format.h>
+#include <optional>
+#include <utility>
+
+namespace pondiff::tool {
+
+namespace {
+
+bool is_text(const Field& field)
+{
+    return field.form == Form::text || field.form == Form::secret;
+}
+
+std::size_t size_of(const Field& field)
+{
+    return field.layout == Layout::ended_list ? field.size : field.width;
+}
+
+} // namespace
+
+Device::Device(GCfg& configuration)
+    : configuration_(configuration), bytes_(reinterpret_cast<unsigned char*>(&configuration)),
+      index_(command_index()), standing_{&index_.top(), 0}
+{
+}
+
+const Line& Device::take(std::string_view line)
+{
+    if (!line.empty() && line.back() == '\r') {
+        line.remove_suffix(1);
+    }
+    ++line_.number;
+    line_.text = line;
+    line_.kind = Line::Kind::passed_over;
+    line_.ambiguous = false;
+    line_.standing = standing_;
+    line_.created = {};
+    line_.removed = {};
+    line_.reason.clear();
+    line_.settings.clear();
+    const Tokens tokens(line);
+    const bool comment = tokens.size() != 0 && !tokens[0].quoted &&
+                         (tokens[0].text.substr(0, 1) == "!" || tokens[0].text.substr(0, 1) == "#");
+    if (comment || (tokens.size() == 0 && tokens.error() == nullptr)) {
+        return line_;
+    }
+    if (tokens.error() != nullptr) {
+        refuse(tokens.error());
+        return line_;
+    }
+    const Match match = index_.find(*standing_.view, tokens);
+    if (match.pattern == nullptr) {
+        refuse("the view has no such command");
+        return line_;
+    }
+    take(match);
+    return line_;
+}
+
+bool Device::take(const Match& match)
+{
+    line_.kind = Line::Kind::setting;
+    switch (match.pattern->does) {
+    case Pattern::Does::set:
+    case Pattern::Does::name:
+        return set(match);
+    case Pattern::Does::read:
+        return match.pattern->field->syntax.kind == Syntax::Kind::flags ? read_flag(match) : read_irregular(match);
+    case Pattern::Does::nothing:
+        line_.ambiguous = true;
+        return true;
+    case Pattern::Does::remove:
+        line_.kind = Line::Kind::removal;
+        return remove(match);
+    case Pattern::Does::enter:
+        line_.kind = Line::Kind::move;
+        return enter(match);
+    case Pattern::Does::configure:
+        line_.kind = Line::Kind::move;
+        standing_ = {&index_.configure(), 0};
+        return true;
+    case Pattern::Does::leave:
+        line_.kind = Line::Kind::move;
+        leave();
+        return true;
+    case Pattern::Does::commit:
+        line_.kind = Line::Kind::move;
+        return true;
+    }
+    return true;
+}
+
+void Device::leave()
+{
+    standing_ = {standing_.view->kind == View::Kind::object ? &index_.configure() : &index_.top(), 0};
+}
+
+/// The object that the view is of, or the whole configuration.
+unsigned char* Device::base() const
+{
+    const View& view = *standing_.view;
+    return view.objects == nullptr ? bytes_ : bytes_ + view.offset + standing_.slot * view.objects->width;
+}
+
+bool Device::set(const Match& match)
+{
+    const Pattern& pattern = *match.pattern;
+    said_.assign(pattern.targets.size(), {});
+    for (std::size_t i = 0; i < pattern.targets.size(); ++i) {
+        const Target& target = pattern.targets[i];
+        if (target.word < 0) {
+            said_[i].number = target.constant;
+            continue;
+        }
+        const Token& token = match.words[static_cast<std::size_t>(target.word)];
+        said_[i] = pattern.terminal_vlan ? read_terminal_vlan(*target.field, token, configuration_)
+                                         : read_value(*target.field, token, configuration_);
+        if (said_[i].result == Said::Result::refused) {
+            return refuse(fmt::format("{}: {}", target.field->name, said_[i].reason));
+        }
+        line_.ambiguous = line_.ambiguous || said_[i].result == Said::Result::ambiguous;
+    }
+    if (line_.ambiguous) {
+        return true;
+    }
+    unsigned char* at = base();
+    if (pattern.array != nullptr) {
+        std::size_t slot = 0;
+        if (!find_element(match, true, slot)) {
+            return false;
+        }
+        at += pattern.array_offset + slot * pattern.array->width;
+    }
+    for (std::size_t i = 0; i < pattern.targets.size(); ++i) {
+        const Target& target = pattern.targets[i];
+        store(*target.field, at + target.offset, said_[i]);
+        if (target.field->syntax.kind == Syntax::Kind::key || target.field->name == "name") {
+            named_array_ = nullptr;
+        }
+        note(*target.field, at + target.offset, size_of(*target.field));
+    }
+    return true;
+}
+
+bool Device::enter(const Match& match)
+{
+    std::size_t slot = 0;
+    if (!find_element(match, true, slot)) {
+        return false;
+    }
+    standing_ = {match.pattern->view, slot};
+    return true;
+}
+
+bool Device::remove(const Match& match)
+{
+    const Pattern& pattern = *match.pattern;
+    std::size_t slot = 0;
+    if (!find_element(match, false, slot)) {
+        return line_.kind != Line::Kind::refused;
+    }
+    unsigned char* const at = base() + pattern.array_offset + slot * pattern.array->width;
+    if (!in_use(*pattern.array->record, at)) {
+        return true;
+    }
+    make_blank(*pattern.array->record, at);
+    named_array_ = nullptr;
+    forget(configuration_, *pattern.array, slot);
+    line_.removed = {pattern.array, slot, static_cast<std::size_t>(at - bytes_)};
+    return true;
+}
+
+bool Device::read_flag(const Match& match)
+{
+    const Pattern& pattern = *match.pattern;
+    const Field& field = *pattern.field;
+    const Syntax& syntax = field.syntax;
+    const std::string_view word = match.words[static_cast<std::size_t>(pattern.shown)].text;
+    const auto* const end = syntax.flags + syntax.flag_count;
+    const auto* const found = std::find(syntax.flags, end, word);
+    if (found == end) {
+        return refuse(fmt::format("{}: no value has this word", field.name));
+    }
+    unsigned char* const at = base() + pattern.array_offset;
+    const std::int64_t bit = std::int64_t{1} << (found - syntax.flags);
+    const std::int64_t before = get_number(field, at);
+    set_number(field, at, pattern.off ? before & ~bit : before | bit);
+    note(field, at, field.width);
+    return true;
+}
+
+class Device::IrregularTaking : public Taking {
+  public:
+    IrregularTaking(Device& device, const Match& match)
+        : device_(device), pattern_(*match.pattern),
+          word_(match.words[static_cast<std::size_t>(match.pattern->shown)].text)
+    {
+    }
+    std::string_view word() const override { return word_; }
+    bool off() const override { return pattern_.off; }
+    void set(std::size_t index, std::int64_t number) override
+    {
+        const Field& field = *pattern_.field;
+        unsigned char* const at = device_.base() + pattern_.array_offset + index * field.width;
+        set_number(field, at, number);
+        device_.note(field, at, field.width);
+    }
+    void refuse(std::string reason) override { device_.refuse(std::move(reason)); }
+
+  private:
+    Device& device_;
+    const Pattern& pattern_;
+    std::string_view word_;
+};
+
+bool Device::read_irregular(const Match& match)
+{
+    IrregularTaking taking(*this, match);
+    match.pattern->field->syntax.read(taking);
+    return line_.kind != Line::Kind::refused;
+}
+
+/// The element that a command tells. @return false when there is none, and none is created; it may be refused
+bool Device::find_element(const Match& match, bool create, std::size_t& slot)
+{
+    const Pattern& pattern = *match.pattern;
+    const Field& array = *pattern.array;
+    if (pattern.element < 0) {
+        return true;
+    }
+    const Token& token = match.words[static_cast<std::size_t>(pattern.element)];
+    const Element::Told told = pattern.by_slot ? Element::Told::by_number : array.element.told;
+    std::int64_t number = 0;
+    switch (told) {
+    case Element::Told::by_name:
+        return find_by_text(match, *array.record->name_member, create, slot);
+    case Element::Told::by_key:
+        return find_by_key(match, create, slot);
+    case Element::Told::by_word: {
+        for (; number < array.count && token.text != array.element.vocabulary(static_cast<int>(number)); ++number) {
+        }
+        break;
+    }
+    case Element::Told::by_port_and_id: {
+        const std::size_t slash = token.text.find('/');
+        std::int64_t port = 0;
+        if (slash == token.text.npos || !read_decimal(token.text.substr(0, slash), 0, array.count, port) ||
+            !read_decimal(token.text.substr(slash + 1), 0, GCFG_ONTS_PER_PORT - 1, number)) {
+            return refuse("expected a port and an id such as 1/6");
+        }
+        number += port * GCFG_ONTS_PER_PORT;
+        break;
+    }
+    case Element::Told::by_number:
+        if (!read_decimal(token.text, pattern.counted_from, array.count - 1 + pattern.counted_from, number)) {
+            return refuse(fmt::format("expected a number from {} to {}", pattern.counted_from,
+                                      array.count - 1 + pattern.counted_from));
+        }
+        number -= pattern.counted_from;
+        break;
+    }
+    if (number >= array.count) {
+        return refuse(fmt::format("there are no such {}", array.plural));
+    }
+    slot = static_cast<std::size_t>(number);
+    unsigned char* const first = base() + pattern.array_offset;
+    const bool has_flag = array.record != nullptr && array.record->existence_member != nullptr;
+    return !create || !has_flag || in_use(*array.record, first + slot * array.width) ||
+           this->create(array, first, slot, nullptr, nullptr);
+}
+
+bool Device::find_by_text(const Match& match, const Field& member, bool create, std::size_t& slot)
+{
+    const Pattern& pattern = *match.pattern;
+    const Token& token = match.words[static_cast<std::size_t>(pattern.element)];
+    const Table table{pattern.array, base() + pattern.array_offset};
+    if (named_array_ == table.first && table.has_text(named_slot_, member, token.text)) {
+        slot = named_slot_;
+        return true;
+    }
+    if (const auto found = table.find_text(member, token.text)) {
+        slot = *found;
+        remember(table.first, slot);
+        return true;
+    }
+    if (!create) {
+        return false;
+    }
+    const Said name = read_value(member, token, configuration_);
+    if (name.result == Said::Result::refused) {
+        return refuse(fmt::format("{}: {}", member.name, name.reason));
+    }
+    if (token.text.empty() && pattern.does != Pattern::Does::enter) {
+        return refuse("no object has the empty name");
+    }
+    const auto free = table.free_slot();
+    if (!free) {
+        return refuse(fmt::format("all {} {} are in use", pattern.array->count, pattern.array->plural));
+    }
+    slot = *free;
+    return this->create(*pattern.array, table.first, slot, &member, &name);
+}
+
+bool Device::find_by_key(const Match& match, bool create, std::size_t& slot)
+{
+    const Pattern& pattern = *match.pattern;
+    const Field& key = *pattern.array->record->key_member;
+    if (is_text(key)) {
+        return find_by_text(match, key, create, slot);
+    }
+    const Said said = read_value(key, match.words[static_cast<std::size_t>(pattern.element)], configuration_);
+    if (said.result != Said::Result::value) {
+        line_.ambiguous = said.result == Said::Result::ambiguous;
+        return line_.ambiguous ? false : refuse(fmt::format("{}: {}", key.name, said.reason));
+    }
+    unsigned char bytes[16]{};
+    store(key, bytes, said);
+    const bool names_none = key.syntax.zero_is_free && said.number == 0;
+    if (names_none && key.syntax.vocabulary == nullptr) {
+        return refuse(fmt::format("{}: 0 is no entry", key.name));
+    }
+    const Table table{pattern.array, base() + pattern.array_offset};
+    if (named_array_ == table.first && !names_none && table.has_bytes(named_slot_, key, bytes)) {
+        slot = named_slot_;
+        return true;
+    }
+    const auto found = names_none ? table.free_slot() : table.find(key, bytes);
+    if (found) {
+        slot = *found;
+        remember(table.first, slot);
+        return true;
+    }
+    if (!create) {
+        return false;
+    }
+    const auto free = table.free_slot();
+    if (!free) {
+        return refuse(fmt::format("all {} {} are in use", pattern.array->count, pattern.array->plural));
+    }
+    slot = *free;
+    return this->create(*pattern.array, table.first, slot, &key, &said);
+}
+
+/// Makes a blank element in a free slot, there and told by `identity`.
+bool Device::create(const Field& array, unsigned char* first, std::size_t slot, const Field* member,
+                    const Said* identity)
+{
+    unsigned char* const at = first + slot * array.width;
+    make_blank(*array.record, at);
+    line_.created = {&array, slot, static_cast<std::size_t>(at - bytes_)};
+    if (const Field* const flag = array.record->existence_member) {
+        set_number(*flag, at + flag->offset, 1);
+        note(*flag, at + flag->offset, flag->width);
+    }
+    remember(first, slot);
+    if (member != nullptr) {
+        store(*member, at + member->offset, *identity);
+        note(*member, at + member->offset, member->width);
+    }
+    return true;
+}
+
+void Device::remember(const unsigned char* array, std::size_t slot)
+{
+    named_array_ = array;
+    named_slot_ = slot;
+}
+
+void Device::note(const Field& field, const unsigned char* at, std::size_t size)
+{
+    line_.settings.push_back({&field, static_cast<std::size_t>(at - bytes_), size});
+}
+
+bool Device::refuse(std::string reason)
+{
+    line_.kind = Line::Kind::refused;
+    line_.reason = std::move(reason);
+    return false;
+}
+
+std::string place_text(const Standing& standing, const GCfg& configuration)
+{
+    const View& view = *standing.view;
+    if (view.objects == nullptr) {
+        return view.kind == View::Kind::top ? "the top level" : "the configure view";
+    }
+    const auto* const object =
+        reinterpret_cast<const unsigned char*>(&configuration) + view.offset + standing.slot * view.objects->width;
+    std::string form = view.objects->element.enter;
+    std::string told = std::to_string(standing.slot);
+    if (view.objects->element.told == Element::Told::by_port_and_id) {
+        told = fmt::format("{}/{}", standing.slot / GCFG_ONTS_PER_PORT, standing.slot % GCFG_ONTS_PER_PORT);
+    } else if (view.objects->element.told == Element::Told::by_name) {
+        const Field& name = *view.objects->record->name_member;
+        told = fmt::format("\"{}\"", text_in(name, object + name.offset));
+    }
+    form.replace(form.find("<#>"), 3, told);
+    return form;
+}
+
+} // namespace pondiff::tool

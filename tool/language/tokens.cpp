@@ -1,0 +1,58 @@
+#include "tool/language/tokens.h"
+
+#include <cstring>
+
+namespace pondiff::tool {
+
+namespace {
+
+bool is_blank(char c)
+{
+    return c == ' ' || c == '\t';
+}
+
+} // namespace
+
+Tokens::Tokens(std::string_view line)
+{
+    const char* at = line.data();
+    const char* const end = at + line.size();
+    for (;;) {
+        while (at != end && is_blank(*at)) {
+            ++at;
+        }
+        if (at == end) {
+            return;
+        }
+        if (size_ == most) {
+            error_ = "no command has so many words";
+            return;
+        }
+        const bool quoted = *at == '"';
+        const char* const begin = quoted ? at + 1 : at;
+        if (quoted) {
+            at = static_cast<const char*>(std::memchr(begin, '"', static_cast<std::size_t>(end - begin)));
+            if (at == nullptr) {
+                error_ = "a quote is not closed";
+                return;
+            }
+        } else {
+            while (at != end && !is_blank(*at) && *at != '"' && *at != '\0') {
+                ++at;
+            }
+        }
+        const std::string_view text(begin, static_cast<std::size_t>(at - begin));
+        tokens_[size_++] = {text, quoted, quoted ? 0 : hash_of(text)}; // only words are looked up
+        at += quoted ? 1 : 0;
+        if (at != end && !is_blank(*at)) {
+            error_ = *at == '\0' ? "a NUL character stands in it" : "a quote stands inside a word";
+            return;
+        }
+        if (quoted && text.find('\0') != text.npos) {
+            error_ = "a NUL character stands in it";
+            return;
+        }
+    }
+}
+
+} // namespace pondiff::tool
