@@ -2,6 +2,7 @@
 
 #include "platform/platform.h"
 #include "tool/describe/records.h"
+#include "tool/profiles.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -56,14 +57,7 @@ const std::vector<int>& values_with_words(const char* type)
 /// How many profiles of the kinds there are that fields refer to. Slot 0 is never referred to: a blank field does.
 int profiles(Reference to)
 {
-    switch (to) {
-    case Reference::shaping:
-    case Reference::cross_connect:
-    case Reference::alloc:
-        return GCFG_ALLOC_PROFILES;
-    default:
-        return GCFG_OLT_PROFILES;
-    }
+    return tool::kind_of(to)->slots;
 }
 
 std::int64_t number(const Leaf& leaf, std::uint64_t seed)
@@ -200,8 +194,7 @@ void refer_to_slot_1(GCfg& configuration)
     auto* const bytes = reinterpret_cast<unsigned char*>(&configuration);
     tool::for_each_leaf(tool::gcfg_record, [bytes](const Leaf& leaf) {
         const Field& field = leaf.field;
-        const bool to_profile = field.form == Form::reference && field.reference != Reference::terminal_vlan_id &&
-                                field.reference != Reference::terminal_vlan_priority;
+        const bool to_profile = field.form == Form::reference && tool::kind_of(field.reference) != nullptr;
         if (to_profile && tool::get_number(field, bytes + leaf.offset) != 0)
             tool::set_number(field, bytes + leaf.offset, 1);
     });

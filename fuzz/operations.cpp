@@ -4,6 +4,8 @@
 #include "pon/DataToCommandsConvertor.h"
 #include "pon/command_file_generator.h"
 #include "tests/support/elements.h"
+#include "tool/areas.h"
+#include "tool/profiles.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -154,11 +156,14 @@ const Operation* find_operation(std::string_view name)
 
 const std::vector<std::string>& known_words()
 {
-    static const std::vector<std::string> words = {"address-table", "cross-connect", "dba",     "dhcp-ra",  "dhcpv6-ra",
-                                                   "management",    "ports",         "voice",   "pppoe-ia", "shaping",
-                                                   "vlan",          "template",      "olt",     "network",  "backup",
-                                                   "cli",           "config",        "ntp",     "snmp",     "ssh",
-                                                   "source_guard",  "telnet",        "logging", "user",     "route"};
+    static const std::vector<std::string> words = [] {
+        const std::vector<std::string_view> blocks = tool::names_of_blocks();
+        std::vector<std::string> names(blocks.begin(), blocks.end());
+        for (const tool::ProfileKind& kind : tool::profile_kinds) {
+            names.emplace_back(kind.name);
+        }
+        return names;
+    }();
     return words;
 }
 

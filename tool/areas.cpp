@@ -1,11 +1,13 @@
 #include "tool/areas.h"
 
+#include "pon/blocks.h"
 #include "pon/command_file_generator.h"
 #include "tool/errors.h"
 #include "tool/json/forms.h"
 #include "tool/json/store.h"
 #include "tool/profiles.h"
 
+#include <algorithm>
 #include <fmt/format.h>
 #include <optional>
 #include <string_view>
@@ -21,36 +23,26 @@ namespace {
         offsetof(GCfg, path), sizeof(GCfg::path)                                                                       \
     }
 
-/// A block of settings and the records that it shows.
-struct Block {
-    const char* name;
-    Ranges records;
+/// A record that a block of settings shows; a block of several has a row for each.
+struct BlockRecord {
+    const char* name; ///< of the block
+    Range record;
 };
 
-const Block blocks[] = {
-    {"olt", {RECORDS(pon.olt.general)}},
-    {"network", {RECORDS(pon.network)}},
-    {"backup", {RECORDS(system.services.tftp)}},
-    {"cli", {RECORDS(system.services.cli)}},
-    {"config", {RECORDS(system.services.config)}},
-    {"management", {RECORDS(system.network)}},
-    {"ntp", {RECORDS(system.services.ntp)}},
-    {"snmp", {RECORDS(system.services.snmp)}},
-    {"ssh", {RECORDS(system.services.ssh)}},
-    {"source_guard", {RECORDS(system.services.source_guard)}},
-    {"telnet", {RECORDS(system.services.telnet)}},
-    {"logging", {RECORDS(system.services.syslog), RECORDS(system.services.log)}},
-    {"user", {RECORDS(system.user)}},
-    {"route", {RECORDS(system.services.routing)}},
+constexpr BlockRecord block_records[] = {
+#define BLOCK_RECORD(name, path, diff) {name, RECORDS(path)},
+    PON_BLOCKS(BLOCK_RECORD)
+#undef BLOCK_RECORD
 };
 
-/// The names of the elements of a table.
+/// The names in a table, each once: rows of one name follow one another.
 template <class Table>
 std::vector<std::string_view> names_of(const Table& table)
 {
     std::vector<std::string_view> names;
     for (const auto& entry : table)
         names.emplace_back(entry.name);
+    names.erase(std::unique(names.begin(), names.end()), names.end());
     return names;
 }
 
@@ -172,14 +164,20 @@ Area profile(const Request& request)
 
 Area block(const Request& request)
 {
-    for (const Block& known : blocks)
-        if (known.name == request.argument)
-            return {known.records, [text = std::string(request.argument)](GCfg& orig, GCfg& cfg) mutable {
-                        return GetBlockDiff(&orig, &cfg, text.data());
-                    }};
-    const std::vector<std::string_view> names = names_of(blocks);
-    reject(request,
-           fmt::format("no such block{}; there are {}", suggestion(request.argument, names), enumerated(names)));
+    Ranges records;
+    for (const BlockRecord& row : block_records) {
+        if (row.name == request.argument) {
+            records.push_back(row.record);
+        }
+    }
+    if (records.empty()) {
+        const std::vector<std::string_view> names = names_of(block_records);
+        reject(request,
+               fmt::format("no such block{}; there are {}", suggestion(request.argument, names), enumerated(names)));
+    }
+    return {records, [text = std::string(request.argument)](GCfg& orig, GCfg& cfg) mutable {
+                return GetBlockDiff(&orig, &cfg, text.data());
+            }};
 }
 
 Area alarm(const Request& /*request*/)
@@ -235,7 +233,7 @@ constexpr AreaKind area_kinds[] = {
     {"profiles-ont", nullptr, "The ONT profiles and the templates", profiles_ont},
     {"profile", "KIND", "The profiles of a kind that differ", profile, all_names<profile_kinds>},
     {"profile", "KIND:ID", "The profile of a kind in the slot ID", profile},
-    {"block", "NAME", "A block of settings", block, all_names<blocks>},
+    {"block", "NAME", "A block of settings", block, all_names<block_records>},
     {"alarm", nullptr, "The alarms", alarm},
     {"routes", nullptr, "The static routes, which the whole diff leaves out", routes},
     {"terminal-vlans", nullptr, "A line that declares each terminal VLAN of CFG by name", terminal_vlans},
@@ -276,6 +274,11 @@ std::string wrapped(const std::vector<std::string_view>& names)
 }
 
 } // namespace
+
+std::vector<std::string_view> names_of_blocks()
+{
+    return names_of(block_records);
+}
 
 Area whole_configuration(int common)
 {
@@ -323,7 +326,7 @@ std::string list_of_areas()
     for (const AreaKind& kind : area_kinds)
         text += fmt::format("  {:<15}  {}\n", written(kind), kind.shows);
     return text + fmt::format("\nKinds of profiles:\n{}\n\nBlocks of settings:\n{}\n", wrapped(names_of(profile_kinds)),
-                              wrapped(names_of(blocks)));
+                              wrapped(names_of(block_records)));
 }
 
 } // namespace pondiff::tool

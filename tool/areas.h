@@ -5,6 +5,8 @@
 
 #include <functional>
 #include <string>
+#include <string_view>
+#include <vector>
 
 namespace pondiff::tool {
 
@@ -24,6 +26,9 @@ Area area_named(const std::string& name);
 
 /// The names of the areas for a shell to complete, as `completed_by` takes them.
 std::string area_candidates();
+
+/// The blocks of settings that `area_named` knows.
+std::vector<std::string_view> names_of_blocks();
 
 /// The names of the areas and what they show, for a manual page: a line each, indented.
 std::string list_of_areas();

@@ -82,15 +82,6 @@ bool holds_control_character(std::string_view value)
     });
 }
 
-/// What a reference of a kind leads to. Null for a reference to a terminal VLAN.
-const ProfileKind* kind_of(Reference reference)
-{
-    const ProfileKind* const end = std::end(profile_kinds);
-    const ProfileKind* const found =
-        std::find_if(profile_kinds, end, [reference](const ProfileKind& kind) { return kind.reference == reference; });
-    return found != end ? found : nullptr;
-}
-
 /// The terminal VLAN that a VLAN id or a priority stands for, or -1.
 int terminal_vlan_of(Reference reference, std::int64_t number)
 {

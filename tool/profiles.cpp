@@ -1,6 +1,8 @@
 #include "tool/profiles.h"
 
+#include <algorithm>
 #include <cstring>
+#include <iterator>
 
 namespace pondiff::tool {
 
@@ -13,19 +15,11 @@ struct __attribute__((packed)) Head {
     GChar_t name[GCFG_NAME_SIZE];
 };
 
-template <class Array>
-struct Profiles;
-
-template <class Profile, std::size_t Slots>
-struct Profiles<Profile[Slots]> {
-    static_assert(offsetof(Profile, exist) == offsetof(Head, exist));
-    static_assert(offsetof(Profile, name) == offsetof(Head, name) && sizeof(Profile::name) == sizeof(Head::name));
-    static constexpr std::size_t size = sizeof(Profile);
-    static constexpr int slots = Slots;
-};
-
-#define PROFILES(array)                                                                                                \
-    offsetof(GCfg, array), Profiles<decltype(GCfg::array)>::size, Profiles<decltype(GCfg::array)>::slots
+#define BEGINS_WITH_HEAD(part, array, record, ...)                                                                     \
+    static_assert(offsetof(record, exist) == offsetof(Head, exist));                                                   \
+    static_assert(offsetof(record, name) == offsetof(Head, name) && sizeof(record::name) == sizeof(Head::name));
+PON_PROFILE_KINDS(BEGINS_WITH_HEAD)
+#undef BEGINS_WITH_HEAD
 
 const char* start_of(const ProfileKind& kind, const GCfg& configuration, int slot)
 {
@@ -34,20 +28,26 @@ const char* start_of(const ProfileKind& kind, const GCfg& configuration, int slo
 
 } // namespace
 
-const ProfileKind profile_kinds[12] = {
-    {"address-table", "address-table profile", PROFILES(pon.profiles_olt.address_table), Reference::address_table},
-    {"cross-connect", "cross-connect profile", PROFILES(pon.profiles_ont.cross_connect), Reference::cross_connect},
-    {"dba", "allocation profile", PROFILES(pon.profiles_ont.alloc), Reference::alloc},
-    {"dhcp-ra", "DHCP relay agent profile", PROFILES(pon.profiles_olt.dhcp_ra), Reference::dhcp_ra},
-    {"dhcpv6-ra", "DHCPv6 relay agent profile", PROFILES(pon.profiles_olt.dhcpv6_ra), Reference::dhcpv6_ra},
-    {"management", "management profile", PROFILES(pon.profiles_ont.management), Reference::management},
-    {"ports", "ports profile", PROFILES(pon.profiles_ont.ports), Reference::ports},
-    {"voice", "voice profile", PROFILES(pon.profiles_ont.voice), Reference::voice},
-    {"pppoe-ia", "PPPoE intermediate agent profile", PROFILES(pon.profiles_olt.pppoe_ia), Reference::pppoe_ia},
-    {"shaping", "shaping profile", PROFILES(pon.profiles_ont.shaping), Reference::shaping},
-    {"vlan", "VLAN profile", PROFILES(pon.profiles_olt.vlan), Reference::vlan},
-    {"template", "template", PROFILES(pon.profiles_ont.template_ont), Reference::template_ont},
+constexpr ProfileKind profile_kinds[profile_kind_count] = {
+#define PROFILE_KIND(part, array, record, tables, lookup, prefix, name, called)                                        \
+    {name,                                                                                                             \
+     prefix name,                                                                                                      \
+     called,                                                                                                           \
+     offsetof(GCfg, pon.part.array),                                                                                   \
+     sizeof(record),                                                                                                   \
+     PON_PROFILE_SLOTS(part, array),                                                                                   \
+     Reference::array},
+    PON_PROFILE_KINDS(PROFILE_KIND)
+#undef PROFILE_KIND
 };
+
+const ProfileKind* kind_of(Reference reference)
+{
+    const ProfileKind* const end = std::end(profile_kinds);
+    const ProfileKind* const found =
+        std::find_if(profile_kinds, end, [reference](const ProfileKind& kind) { return kind.reference == reference; });
+    return found != end ? found : nullptr;
+}
 
 bool ProfileKind::exists(const GCfg& configuration, int slot) const
 {

@@ -37,9 +37,7 @@ KnownLines known_lines(const GCfg& orig)
     for (const ProfileKind& kind : profile_kinds)
         for (int slot = 0; slot < kind.slots; ++slot)
             if (kind.exists(orig, slot))
-                lines.into_views.push_back(fmt::format("{}{} \"{}\"\n",
-                                                       kind.reference == Reference::template_ont ? "" : "profile ",
-                                                       kind.name, kind.name_in(orig, slot)));
+                lines.into_views.push_back(fmt::format("{} \"{}\"\n", kind.command, kind.name_in(orig, slot)));
     for (const GVlanTagEx& vlan : orig.pon.network.terminal_vlan) {
         const std::string_view name = text_of(vlan.name, sizeof vlan.name);
         // Behind a name with a quote in it the line could go on as another command.

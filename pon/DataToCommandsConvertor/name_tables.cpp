@@ -3,36 +3,17 @@
 #include "platform/platform.h"
 #include "pon/DataToCommandsConvertor.h"
 #include "pon/DataToCommandsConvertor/views.h"
+#include "pon/profile_kinds.h"
 
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
 
-char* management2id_connection[GCFG_ONT_PROFILES];
-char* shaping2id_connection[GCFG_SHAPING_PROFILES];
-char* ports2id_connection[GCFG_ONT_PROFILES];
-char* voice2id_connection[GCFG_ONT_PROFILES];
-char* cross_connect2id_connection[GCFG_CROSS_CONNECT_PROFILES];
-char* alloc2id_connection[GCFG_ALLOC_PROFILES];
-char* onttemplate2id_connection[GCFG_ONT_PROFILES];
-char* address_table2id_connection[GCFG_OLT_PROFILES];
-char* dhcpra2id_connection[GCFG_OLT_PROFILES];
-char* dhcpv6ra2id_connection[GCFG_OLT_PROFILES];
-char* pppoeia2id_connection[GCFG_OLT_PROFILES];
-char* vlan2id_connection[GCFG_OLT_PROFILES];
-
-char* def_management2id_connection[GCFG_ONT_PROFILES];
-char* def_shaping2id_connection[GCFG_SHAPING_PROFILES];
-char* def_ports2id_connection[GCFG_ONT_PROFILES];
-char* def_voice2id_connection[GCFG_ONT_PROFILES];
-char* def_cross_connect2id_connection[GCFG_CROSS_CONNECT_PROFILES];
-char* def_alloc2id_connection[GCFG_ALLOC_PROFILES];
-char* def_onttemplate2id_connection[GCFG_ONT_PROFILES];
-char* def_address_table2id_connection[GCFG_OLT_PROFILES];
-char* def_dhcpra2id_connection[GCFG_OLT_PROFILES];
-char* def_dhcpv6ra2id_connection[GCFG_OLT_PROFILES];
-char* def_pppoeia2id_connection[GCFG_OLT_PROFILES];
-char* def_vlan2id_connection[GCFG_OLT_PROFILES];
+#define NAME_TABLES(part, array, record, tables, ...)                                                                  \
+    char* tables##2id_connection [PON_PROFILE_SLOTS(part, array)];                                                     \
+    char* def_##tables##2id_connection [PON_PROFILE_SLOTS(part, array)];
+PON_PROFILE_KINDS(NAME_TABLES)
+#undef NAME_TABLES
 
 char* terminalvlan2id_connection[GCFG_TERMINAL_VLANS];
 char* user2id_connection[GCFG_USERS];
@@ -69,27 +50,16 @@ struct NameTable {
         names, old_names, sizeof(names) / sizeof *(names), offsetof(GCfg, array), sizeof(record),                      \
             offsetof(record, exists), sizeof(record::exists), offsetof(record, name), sizeof(record::name)             \
     }
-#define PROFILE_TABLE(kind, array, record)                                                                             \
-    NAME_TABLE(kind##2id_connection, def_##kind##2id_connection, array, record, exist)
 
 constexpr NameTable name_tables[] = {
-    PROFILE_TABLE(management, pon.profiles_ont.management, GPonProfileOntManagement),
-    PROFILE_TABLE(shaping, pon.profiles_ont.shaping, GPonProfileOntShaping),
-    PROFILE_TABLE(address_table, pon.profiles_olt.address_table, GPonProfileOltAddressTable),
-    PROFILE_TABLE(cross_connect, pon.profiles_ont.cross_connect, GPonProfileOntCrossConnect),
-    PROFILE_TABLE(alloc, pon.profiles_ont.alloc, GPonProfileOntAlloc),
-    PROFILE_TABLE(dhcpra, pon.profiles_olt.dhcp_ra, GPonProfileOltDhcpRa),
-    PROFILE_TABLE(dhcpv6ra, pon.profiles_olt.dhcpv6_ra, GPonProfileOltDhcpv6Ra),
-    PROFILE_TABLE(ports, pon.profiles_ont.ports, GPonProfileOntPorts),
-    PROFILE_TABLE(voice, pon.profiles_ont.voice, GPonProfileOntVoice),
-    PROFILE_TABLE(pppoeia, pon.profiles_olt.pppoe_ia, GPonProfileOltPppoeIa),
-    PROFILE_TABLE(vlan, pon.profiles_olt.vlan, GPonProfileOltVlan),
-    PROFILE_TABLE(onttemplate, pon.profiles_ont.template_ont, GPonTemplateOnt),
     NAME_TABLE(terminalvlan2id_connection, nullptr, pon.network.terminal_vlan, GVlanTagEx, exists),
     NAME_TABLE(user2id_connection, nullptr, system.user, GSystemUser, exist),
+#define PROFILE_TABLE(part, array, record, tables, ...)                                                                \
+    NAME_TABLE(tables##2id_connection, def_##tables##2id_connection, pon.part.array, record, exist),
+    PON_PROFILE_KINDS(PROFILE_TABLE)
+#undef PROFILE_TABLE
 };
 
-#undef PROFILE_TABLE
 #undef NAME_TABLE
 
 bool any_byte_set(const char* bytes, std::size_t size)
@@ -227,129 +197,21 @@ int data_free()
     return 0;
 }
 
-const char* getManagementName(int index)
-{
-    return name_or_unassigned(management2id_connection, index);
-}
-
-const char* getShapingName(int index)
-{
-    return name_or_unassigned(shaping2id_connection, index);
-}
-
-const char* getPortsName(int index)
-{
-    return name_or_unassigned(ports2id_connection, index);
-}
-
-const char* getVoiceName(int index)
-{
-    return name_or_unassigned(voice2id_connection, index);
-}
-
-const char* getAddressTableName(int index)
-{
-    return name_or_unassigned(address_table2id_connection, index);
-}
-
-const char* getCrossConnectName(int index)
-{
-    return name_or_unassigned(cross_connect2id_connection, index);
-}
-
-const char* getAllocName(int index)
-{
-    return name_or_unassigned(alloc2id_connection, index);
-}
-
-const char* getDhcpRaName(int index)
-{
-    return name_or_unassigned(dhcpra2id_connection, index);
-}
-
-const char* getDhcpv6RaName(int index)
-{
-    return name_or_unassigned(dhcpv6ra2id_connection, index);
-}
-
-const char* getPppoeName(int index)
-{
-    return name_or_unassigned(pppoeia2id_connection, index);
-}
-
-const char* getVlanName(int index)
-{
-    return name_or_unassigned(vlan2id_connection, index);
-}
-
-const char* getTemplateName(int index)
-{
-    return name_or_unassigned(onttemplate2id_connection, index);
-}
+#define LOOKUPS(part, array, record, tables, lookup, ...)                                                              \
+    const char* get##lookup##Name(int index)                                                                           \
+    {                                                                                                                  \
+        return name_or_unassigned(tables##2id_connection, index);                                                      \
+    }                                                                                                                  \
+    const char* def_get##lookup##Name(int index)                                                                       \
+    {                                                                                                                  \
+        return old_name_or_unassigned(def_##tables##2id_connection, index);                                            \
+    }
+PON_PROFILE_KINDS(LOOKUPS)
+#undef LOOKUPS
 
 const char* getTerminalVlanName(int index)
 {
     return name_or_unassigned(terminalvlan2id_connection, index);
-}
-
-const char* def_getManagementName(int index)
-{
-    return old_name_or_unassigned(def_management2id_connection, index);
-}
-
-const char* def_getShapingName(int index)
-{
-    return old_name_or_unassigned(def_shaping2id_connection, index);
-}
-
-const char* def_getPortsName(int index)
-{
-    return old_name_or_unassigned(def_ports2id_connection, index);
-}
-
-const char* def_getVoiceName(int index)
-{
-    return old_name_or_unassigned(def_voice2id_connection, index);
-}
-
-const char* def_getAddressTableName(int index)
-{
-    return old_name_or_unassigned(def_address_table2id_connection, index);
-}
-
-const char* def_getCrossConnectName(int index)
-{
-    return old_name_or_unassigned(def_cross_connect2id_connection, index);
-}
-
-const char* def_getAllocName(int index)
-{
-    return old_name_or_unassigned(def_alloc2id_connection, index);
-}
-
-const char* def_getDhcpRaName(int index)
-{
-    return old_name_or_unassigned(def_dhcpra2id_connection, index);
-}
-
-const char* def_getDhcpv6RaName(int index)
-{
-    return old_name_or_unassigned(def_dhcpv6ra2id_connection, index);
-}
-
-const char* def_getPppoeName(int index)
-{
-    return old_name_or_unassigned(def_pppoeia2id_connection, index);
-}
-
-const char* def_getVlanName(int index)
-{
-    return old_name_or_unassigned(def_vlan2id_connection, index);
-}
-
-const char* def_getTemplateName(int index)
-{
-    return old_name_or_unassigned(def_onttemplate2id_connection, index);
 }
 
 char* convert_sn_by_format(char* out, const unsigned char* serial)

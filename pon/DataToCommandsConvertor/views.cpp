@@ -10,27 +10,17 @@ view_state current_view;
 
 namespace pondiff {
 
-constexpr ViewData views[view_count] = {
+constexpr ViewData views[view_count] = { // in the order of `View`
     {"root", nullptr},
     {"configure-view", nullptr},
     {"if-gpon-view", "interface gpon-port "},
     {"if-ont-view", "interface ont "},
     {"container-view", "profile container "},
-    {"address-table-view", "profile address-table ", address_table2id_connection, def_address_table2id_connection,
-     GCFG_OLT_PROFILES},
-    {"cross-connect-view", "profile cross-connect ", cross_connect2id_connection, def_cross_connect2id_connection,
-     GCFG_CROSS_CONNECT_PROFILES},
-    {"dba-view", "profile dba ", alloc2id_connection, def_alloc2id_connection, GCFG_ALLOC_PROFILES},
-    {"dhcp-ra-view", "profile dhcp-ra ", dhcpra2id_connection, def_dhcpra2id_connection, GCFG_OLT_PROFILES},
-    {"dhcpv6-ra-view", "profile dhcpv6-ra ", dhcpv6ra2id_connection, def_dhcpv6ra2id_connection, GCFG_OLT_PROFILES},
-    {"management-view", "profile management ", management2id_connection, def_management2id_connection,
-     GCFG_ONT_PROFILES},
-    {"ports-view", "profile ports ", ports2id_connection, def_ports2id_connection, GCFG_ONT_PROFILES},
-    {"voice-view", "profile voice ", voice2id_connection, def_voice2id_connection, GCFG_ONT_PROFILES},
-    {"pppoe-ia-view", "profile pppoe-ia ", pppoeia2id_connection, def_pppoeia2id_connection, GCFG_OLT_PROFILES},
-    {"shaping-view", "profile shaping ", shaping2id_connection, def_shaping2id_connection, GCFG_SHAPING_PROFILES},
-    {"vlan-view", "profile vlan ", vlan2id_connection, def_vlan2id_connection, GCFG_OLT_PROFILES},
-    {"template-view", "template ", onttemplate2id_connection, def_onttemplate2id_connection, GCFG_ONT_PROFILES},
+#define PROFILE_VIEW(part, array, record, tables, lookup, prefix, name, called)                                        \
+    {name "-view", prefix name " ", tables##2id_connection, def_##tables##2id_connection,                              \
+     PON_PROFILE_SLOTS(part, array)},
+    PON_PROFILE_KINDS(PROFILE_VIEW)
+#undef PROFILE_VIEW
 };
 
 namespace {

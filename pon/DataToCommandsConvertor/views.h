@@ -3,33 +3,26 @@
 
 #include "pon/DataToCommandsConvertor.h"
 #include "pon/DataToCommandsConvertor/text.h"
+#include "pon/profile_kinds.h"
 
 #include <cstddef>
 #include <cstdint>
 
 namespace pondiff {
 
-/// The views of the CLI: the top level, the configuration mode, and below it the views that each edit one object.
+/// The views of the CLI: the top level, the configuration mode, and below it the views that each edit one object; each
+/// kind of profile has one.
 enum class View : std::uint8_t {
     root,
     configure,
     gpon_port,
     ont,
     container,
-    address_table,
-    cross_connect,
-    alloc,
-    dhcp_ra,
-    dhcpv6_ra,
-    management,
-    ports,
-    voice,
-    pppoe_ia,
-    shaping,
-    vlan,
-    template_ont,
+#define PROFILE_VIEW(part, array, ...) array,
+    PON_PROFILE_KINDS(PROFILE_VIEW)
+#undef PROFILE_VIEW
 };
-constexpr std::size_t view_count = static_cast<std::size_t>(View::template_ont) + 1;
+constexpr std::size_t view_count = static_cast<std::size_t>(View::container) + 1 + profile_kind_count;
 
 struct ViewData {
     const char* name;  ///< what `current_view` and `goto_view_buf` call it

@@ -1,6 +1,8 @@
+#include "pon/blocks.h"
 #include "pon/command_file_generator.h"
 #include "pon/command_file_generator/operation.h"
 #include "pon/diff_builder/rows.h"
+#include "pon/profile_kinds.h"
 
 #include <cstring>
 
@@ -20,95 +22,52 @@ char* from_configure_view(Ending ending, Body body)
     return operation.finish(ending);
 }
 
-/// All slots of one profile kind that differ, or the one slot `id`, which is not compared first. A slot beyond the
+/// All profiles of a kind that differ, or the one in the slot `id`, which is not compared first. A slot beyond the
 /// array selects nothing.
-template <auto Area, auto Profiles, auto Diff>
-void diff_profiles(GPonCfg& orig, GPonCfg& cfg, int id, int* key, List<char>& out)
+template <class Profile, std::size_t Slots>
+void diff_profiles(bool (*diff)(Profile*, Profile*, int*, List<char>&), Profile (&lhs)[Slots], Profile (&rhs)[Slots],
+                   int id, int* key, List<char>& out)
 {
-    auto& lhs = orig.*Area.*Profiles;
-    auto& rhs = cfg.*Area.*Profiles;
     if (id < 0) {
-        walk(changed_only, Diff, lhs, rhs, 0, key, out);
-    } else if (static_cast<std::size_t>(id) < sizeof lhs / sizeof *lhs) {
+        walk(changed_only, diff, lhs, rhs, 0, key, out);
+    } else if (static_cast<std::size_t>(id) < Slots) {
         key[0] = id;
-        Diff(&lhs[id], &rhs[id], key, out);
+        diff(&lhs[id], &rhs[id], key, out);
     }
 }
 
-struct ProfileKind {
-    const char* name;
-    void (*diff)(GPonCfg& orig, GPonCfg& cfg, int id, int* key, List<char>& out);
-};
-
-template <auto Profiles, auto Diff>
-constexpr auto olt_profiles = diff_profiles<&GPonCfg::profiles_olt, Profiles, Diff>;
-
-template <auto Profiles, auto Diff>
-constexpr auto ont_profiles = diff_profiles<&GPonCfg::profiles_ont, Profiles, Diff>;
-
-constexpr ProfileKind profile_kinds[] = {
-    {"address-table", olt_profiles<&GPonProfilesOlt::address_table, getdiff_GPonProfileOltAddressTable>},
-    {"cross-connect", ont_profiles<&GPonProfilesOnt::cross_connect, getdiff_GPonProfileOntCrossConnect>},
-    {"dba", ont_profiles<&GPonProfilesOnt::alloc, getdiff_GPonProfileOntAlloc>},
-    {"dhcp-ra", olt_profiles<&GPonProfilesOlt::dhcp_ra, getdiff_GPonProfileOltDhcpRa>},
-    {"dhcpv6-ra", olt_profiles<&GPonProfilesOlt::dhcpv6_ra, getdiff_GPonProfileOltDhcpv6Ra>},
-    {"management", ont_profiles<&GPonProfilesOnt::management, getdiff_GPonProfileOntManagement>},
-    {"ports", ont_profiles<&GPonProfilesOnt::ports, getdiff_GPonProfileOntPorts>},
-    {"voice", ont_profiles<&GPonProfilesOnt::voice, getdiff_GPonProfileOntVoice>},
-    {"pppoe-ia", olt_profiles<&GPonProfilesOlt::pppoe_ia, getdiff_GPonProfileOltPppoeIa>},
-    {"shaping", ont_profiles<&GPonProfilesOnt::shaping, getdiff_GPonProfileOntShaping>},
-    {"vlan", olt_profiles<&GPonProfilesOlt::vlan, getdiff_GPonProfileOltVlan>},
-    {"template", ont_profiles<&GPonProfilesOnt::template_ont, getdiff_GPonTemplateOnt>},
-};
-
-/// A record that a block shows: its place in the configuration and its diff. A block of several records has a row for
-/// each, in the order of their commands.
-struct BlockRecord {
-    const char* block;
-    std::size_t offset;
-    void (*diff)(void* orig, void* cfg, int* key, List<char>& out);
-};
-
-template <class Record, bool (*Diff)(Record*, Record*, int*, List<char>&)>
-void diff_record(void* orig, void* cfg, int* key, List<char>& out)
+void diff_profiles_of(const char* kind, GPonCfg& orig, GPonCfg& cfg, int id, int* key, List<char>& out)
 {
-    Diff(static_cast<Record*>(orig), static_cast<Record*>(cfg), key, out);
+#define DIFF_KIND(part, array, record, tables, lookup, prefix, name, called)                                           \
+    if (std::strcmp(name, kind) == 0) {                                                                                \
+        diff_profiles(getdiff_##record, orig.part.array, cfg.part.array, id, key, out);                                \
+    }
+    PON_PROFILE_KINDS(DIFF_KIND)
+#undef DIFF_KIND
 }
 
-void diff_users(void* orig, void* cfg, int* key, List<char>& out)
+template <class Record>
+void diff_record(bool (*diff)(Record*, Record*, int*, List<char>&), Record& orig, Record& cfg, int* key,
+                 List<char>& out)
 {
-    using Users = GSystemUser[GCFG_USERS];
-    walk(changed_only, getdiff_GSystemUser, *static_cast<Users*>(orig), *static_cast<Users*>(cfg), 0, key, out);
+    diff(&orig, &cfg, key, out);
 }
 
-#define RECORD_AT(path, diff) offsetof(GCfg, path), diff_record<decltype(GCfg::path), diff>
-
-constexpr BlockRecord block_records[] = {
-    {"olt", RECORD_AT(pon.olt.general, getdiff_GPonOltGeneralCfg)},
-    {"network", RECORD_AT(pon.network, getdiff_GPonNetworkCfg)},
-    {"backup", RECORD_AT(system.services.tftp, getdiff_GSystemTftpCfg)},
-    {"cli", RECORD_AT(system.services.cli, getdiff_GSystemCliCfg)},
-    {"config", RECORD_AT(system.services.config, getdiff_GSystemConfigCfg)},
-    {"management", RECORD_AT(system.network, getdiff_GSystemMgmtCfg)},
-    {"ntp", RECORD_AT(system.services.ntp, getdiff_GSystemNtpCfg)},
-    {"snmp", RECORD_AT(system.services.snmp, getdiff_GSystemSnmpCfg)},
-    {"ssh", RECORD_AT(system.services.ssh, getdiff_GSystemSshCfg)},
-    {"source_guard", RECORD_AT(system.services.source_guard, getdiff_GSystemSourceGuardCfg)},
-    {"telnet", RECORD_AT(system.services.telnet, getdiff_GSystemTelnetCfg)},
-    {"logging", RECORD_AT(system.services.syslog, getdiff_GSystemSyslogCfg)},
-    {"logging", RECORD_AT(system.services.log, getdiff_GSystemLogCfg)},
-    {"user", offsetof(GCfg, system.user), diff_users},
-    {"route", RECORD_AT(system.services.routing, getdiff_GSystemRoutingCfg)},
-};
-
-#undef RECORD_AT
+template <class Record, std::size_t Slots>
+void diff_record(bool (*diff)(Record*, Record*, int*, List<char>&), Record (&orig)[Slots], Record (&cfg)[Slots],
+                 int* key, List<char>& out)
+{
+    walk(changed_only, diff, orig, cfg, 0, key, out);
+}
 
 void diff_block(const char* block, GCfg& orig, GCfg& cfg, int* key, List<char>& out)
 {
-    for (const BlockRecord& record : block_records)
-        if (std::strcmp(record.block, block) == 0)
-            record.diff(reinterpret_cast<char*>(&orig) + record.offset, reinterpret_cast<char*>(&cfg) + record.offset,
-                        key, out);
+#define DIFF_RECORD(name, path, diff)                                                                                  \
+    if (std::strcmp(name, block) == 0) {                                                                               \
+        diff_record(diff, orig.path, cfg.path, key, out);                                                              \
+    }
+    PON_BLOCKS(DIFF_RECORD)
+#undef DIFF_RECORD
 }
 
 } // namespace
@@ -162,11 +121,9 @@ char* GetGPonProfilesOntDiff(GPonProfilesOnt_t* orig, GPonProfilesOnt_t* cfg)
 char* GetProfileDiff(GPonCfg_t* orig, GPonCfg_t* cfg, char* profile, int id)
 {
     return from_configure_view(Ending::commit, [&](int* key, List<char>& out) {
-        if (!orig || !cfg || !profile)
-            return;
-        for (const ProfileKind& kind : profile_kinds)
-            if (std::strcmp(kind.name, profile) == 0)
-                kind.diff(*orig, *cfg, id, key, out);
+        if (orig && cfg && profile) {
+            diff_profiles_of(profile, *orig, *cfg, id, key, out);
+        }
     });
 }
 

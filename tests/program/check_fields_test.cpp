@@ -3,6 +3,7 @@
 #include "pon/command_file_generator.h"
 #include "tests/support/plausible.h"
 #include "tool/check.h"
+#include "tool/profiles.h"
 
 #include <cstdlib>
 #include <cstring>
@@ -23,7 +24,7 @@ class CheckFields : public testing::Test {
     static bool is_text(const Field& field) { return field.form == Form::text || field.form == Form::secret; }
     static bool refers_to_profile(const Field& field)
     {
-        return field.form == Form::reference && field.reference < Reference::terminal_vlan_id;
+        return field.form == Form::reference && kind_of(field.reference) != nullptr;
     }
 
     void for_each(const std::function<void(const Leaf&, unsigned char*)>& visit) const

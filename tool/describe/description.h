@@ -9,6 +9,7 @@
 /// Fields are reached through offset and memcpy alone: most multi-byte fields of packed records are misaligned.
 
 #include "gcfg/gcfg.h"
+#include "pon/profile_kinds.h"
 #include "tool/describe/syntax.h"
 
 #include <cstddef>
@@ -40,20 +41,11 @@ enum class Form : std::uint8_t {
 /// What a reference refers to. A profile is its index, -1 is none.
 enum class Reference : std::uint8_t {
     none,
-    vlan,
-    address_table,
-    pppoe_ia,
-    dhcp_ra,
-    dhcpv6_ra,
-    shaping,
-    cross_connect,
-    alloc,
-    ports,
-    management,
-    template_ont,
-    voice,
     terminal_vlan_id,       ///< -100 to -131 are the VLAN ids of terminal VLANs 0 to 31, others are no reference
     terminal_vlan_priority, ///< 100 to 131 are the priorities of terminal VLANs 0 to 31, others are no reference
+#define TO_PROFILE(part, array, ...) array,
+    PON_PROFILE_KINDS(TO_PROFILE)
+#undef TO_PROFILE
 };
 
 /// What is special in the way an array is written.
