@@ -1,0 +1,36 @@
+#ifndef TOOL_UNSAFE_H
+#define TOOL_UNSAFE_H
+
+/// @file
+/// Texts that no script can carry: what they hold would end the command, begin another one or hide a line. What counts
+/// is what the script shows, wherever it comes from: names of the old configuration, values that both share, objects of
+/// other areas, words of the platform library.
+
+#include "gcfg/gcfg.h"
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace pondiff::tool {
+
+/// What a text holds that no command can show between quotes: " holds a quote". Empty when there is nothing.
+std::string unsafe_part(std::string_view text);
+
+/// A text that a script shows though it must not.
+struct UnsafeText {
+    enum class Source { orig, cfg, platform };
+    Source source;
+    std::string path; ///< of its field; empty for a word of the platform library
+    std::string text; ///< what is wrong; shows the value, unless it is a secret
+};
+
+/// The texts that the script of a change shows and must not.
+/// @param script  writes the script; it is called for copies of the configurations
+std::vector<UnsafeText> unsafe_texts(const GCfg& orig, const GCfg& cfg,
+                                     const std::function<std::string(GCfg& orig, GCfg& cfg)>& script);
+
+} // namespace pondiff::tool
+
+#endif
