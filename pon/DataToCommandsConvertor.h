@@ -38,7 +38,7 @@ int goto_view_buf(const char* view, int* key, char* out);
 // --------------------------------------------------------------------------------------------------- placeholders
 
 /// A copy of the template `command` in which each "$ID" and digit n stands replaced by the identifier `ids[n]` in four
-/// characters; some command families ("user $ID0 ...") show their first identifier as a name instead.
+/// characters; some commands ("user $ID0 ...") show their first identifier as a name instead.
 /// @param ids  ten identifiers
 /// @return heap text, released with `free`; null when memory cannot be had
 char* useVariables(char* command, int* ids);

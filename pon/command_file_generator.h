@@ -35,7 +35,7 @@ int finalize_diff();
 /// routes are left out.
 char* GetDiff(GCfg_t* orig, GCfg_t* cfg);
 
-/// The walk over the whole tree, and over its PON part; both always return false.
+/// The record diffs of the whole configuration, and of its PON part; both always return false.
 bool getdiff_GCfg(GCfg* lhs, GCfg* rhs, int* key, List<char>& out);
 bool getdiff_GPonCfg(GPonCfg* lhs, GPonCfg* rhs, int* key, List<char>& out);
 

@@ -20,9 +20,9 @@ std::string replaced(const std::string& text, const char* needle, const char* re
 TEST(FormattedTemplates, EachConversionTakesTheNextValue)
 {
     const pondiff::Value values[] = {"one", -2, 3000000000U};
-    const auto formatted = [&values](const char* form, std::size_t count) {
+    const auto formatted = [&values](const char* format, std::size_t count) {
         pondiff::Text text;
-        pondiff::format(text, form, values, count);
+        pondiff::append_formatted(text, format, values, count);
         return std::string(text.c_str());
     };
     EXPECT_EQ(formatted("", 3), "");

@@ -26,8 +26,8 @@ std::string numbered(const std::string& command)
     return substituted(command, {100, 101, 102, 103, 104, 105, 106, 107, 108, 109});
 }
 
-/// A session with something in slot 3 of everything that the families name.
-class Families : public testing::Test {
+/// A session with something in slot 3 of everything that commands name.
+class NamedCommands : public testing::Test {
   protected:
     void SetUp() override
     {
@@ -51,12 +51,12 @@ class Families : public testing::Test {
     Session session;
 };
 
-struct Family {
+struct NamedCommand {
     const char* begin; ///< up to the placeholder
     const char* named; ///< what stands for slot 3, with the blanks around it
     const char* empty; ///< what stands for a slot without a text
 };
-constexpr Family name_families[] = {
+constexpr NamedCommand named_commands[] = {
     {"user ", "user \"operator\" ", "user \"\" "},
     {"log submodule ", "log submodule pmchal-olt ", "log submodule  "},
     {"alarm ", "alarm rssi-update ", "alarm  "},
@@ -217,47 +217,47 @@ TEST(Placeholders, LongTextsAreNotCut)
     }
 }
 
-// --------------------------------------------------------------------------------------------------------- families
+// --------------------------------------------------------------------------------------------------- named commands
 
-TEST_F(Families, ShowTheirFirstIdentifierAsAText)
+TEST_F(NamedCommands, ShowTheirFirstIdentifierAsAText)
 {
     session.open();
-    for (const Family& family : name_families)
-        EXPECT_EQ(substituted(std::string(family.begin) + "$ID0 enable \"7\"", {3}),
-                  std::string(family.named) + "enable \"7\"");
+    for (const NamedCommand& named : named_commands)
+        EXPECT_EQ(substituted(std::string(named.begin) + "$ID0 enable \"7\"", {3}),
+                  std::string(named.named) + "enable \"7\"");
 }
 
-TEST_F(Families, ShowFurtherIdentifiersAsNumbers)
+TEST_F(NamedCommands, ShowFurtherIdentifiersAsNumbers)
 {
     session.open();
-    for (const Family& family : name_families)
-        EXPECT_EQ(substituted(std::string(family.begin) + "$ID0 to $ID1, $ID0, $ID", {3, 12}),
-                  std::string(family.named) + "to   12,    3,    3");
+    for (const NamedCommand& named : named_commands)
+        EXPECT_EQ(substituted(std::string(named.begin) + "$ID0 to $ID1, $ID0, $ID", {3, 12}),
+                  std::string(named.named) + "to   12,    3,    3");
 }
 
-TEST_F(Families, ThatEndBehindThePlaceholderHaveAnEmptyRest)
+TEST_F(NamedCommands, ThatEndBehindThePlaceholderHaveAnEmptyRest)
 {
     session.open();
-    for (const Family& family : name_families) {
-        EXPECT_EQ(substituted(std::string(family.begin) + "$ID0", {3}), family.named);
-        EXPECT_EQ(substituted(std::string(family.begin) + "$ID0 ", {3}), family.named);
+    for (const NamedCommand& named : named_commands) {
+        EXPECT_EQ(substituted(std::string(named.begin) + "$ID0", {3}), named.named);
+        EXPECT_EQ(substituted(std::string(named.begin) + "$ID0 ", {3}), named.named);
     }
 }
 
-TEST_F(Families, SkipTheCharacterBehindThePlaceholderWhateverItIs)
+TEST_F(NamedCommands, SkipTheCharacterBehindThePlaceholderWhateverItIs)
 {
     session.open();
-    for (const Family& family : name_families) {
-        EXPECT_EQ(substituted(std::string(family.begin) + "$ID0,x", {3}), std::string(family.named) + "x");
-        EXPECT_EQ(substituted(std::string(family.begin) + "$ID0  x", {3}), std::string(family.named) + " x");
+    for (const NamedCommand& named : named_commands) {
+        EXPECT_EQ(substituted(std::string(named.begin) + "$ID0,x", {3}), std::string(named.named) + "x");
+        EXPECT_EQ(substituted(std::string(named.begin) + "$ID0  x", {3}), std::string(named.named) + " x");
     }
 }
 
-TEST_F(Families, AreKnownByTheWholeBeginning)
+TEST_F(NamedCommands, AreKnownByTheWholeBeginning)
 {
     session.open();
-    for (const Family& family : name_families) {
-        const std::string begin = family.begin;
+    for (const NamedCommand& named : named_commands) {
+        const std::string begin = named.begin;
         EXPECT_EQ(substituted("no " + begin + "$ID0 x", {3}), "no " + begin + "   3 x");
         EXPECT_EQ(substituted(" " + begin + "$ID0 x", {3}), " " + begin + "   3 x");
         EXPECT_EQ(substituted(begin + "$ID1 x", {3, 4}), begin + "   4 x");
@@ -269,21 +269,21 @@ TEST_F(Families, AreKnownByTheWholeBeginning)
     EXPECT_EQ(substituted("USER $ID0 x", {3}), "USER    3 x");
 }
 
-TEST_F(Families, WithoutAnEntryGiveTheEmptyText)
+TEST_F(NamedCommands, WithoutAnEntryGiveTheEmptyText)
 {
     session.open();
-    for (const Family& family : name_families) {
+    for (const NamedCommand& named : named_commands) {
         for (const int slot : {-1, 1024, INT_MAX, INT_MIN}) {
             SCOPED_TRACE(slot);
-            EXPECT_EQ(substituted(std::string(family.begin) + "$ID0 enable", {slot}),
-                      std::string(family.empty) + "enable");
-            EXPECT_EQ(substituted(std::string(family.begin) + "$ID0", {slot}), family.empty);
+            EXPECT_EQ(substituted(std::string(named.begin) + "$ID0 enable", {slot}),
+                      std::string(named.empty) + "enable");
+            EXPECT_EQ(substituted(std::string(named.begin) + "$ID0", {slot}), named.empty);
         }
     }
     EXPECT_EQ(substituted("user $ID0 priority", {4}), "user \"\" priority") << "no such user";
 }
 
-TEST_F(Families, ReachToTheLastSlotOfTheirTable)
+TEST_F(NamedCommands, ReachToTheLastSlotOfTheirTable)
 {
     GSystemServices& services = session.cfg->system.services;
     add_user(15, "last");
@@ -299,7 +299,7 @@ TEST_F(Families, ReachToTheLastSlotOfTheirTable)
         int last;
         const char* named;
         const char* beyond;
-    } families[] = {
+    } last_ones[] = {
         {"user ", 15, "user \"last\" x", "user \"\" x"},
         {"log submodule ", 13, "log submodule pmchal-dhcpv6ra x", "log submodule  x"},
         {"alarm ", 45, "alarm load-average x", "alarm  x"},
@@ -309,13 +309,13 @@ TEST_F(Families, ReachToTheLastSlotOfTheirTable)
         {"ip route prefix ", 511, "ip route prefix 4.5.6.7 x", "ip route prefix  x"},
         {"ip source-guard bind ip ", 1023, "ip source-guard bind ip 255.255.255.255 x", "ip source-guard bind ip  x"},
     };
-    for (const auto& family : families) {
-        EXPECT_EQ(substituted(std::string(family.begin) + "$ID0 x", {family.last}), family.named);
-        EXPECT_EQ(substituted(std::string(family.begin) + "$ID0 x", {family.last + 1}), family.beyond);
+    for (const auto& named : last_ones) {
+        EXPECT_EQ(substituted(std::string(named.begin) + "$ID0 x", {named.last}), named.named);
+        EXPECT_EQ(substituted(std::string(named.begin) + "$ID0 x", {named.last + 1}), named.beyond);
     }
 }
 
-TEST_F(Families, AnAlarmOfATypeWithoutAWordIsAddressedByAnEmptyOne)
+TEST_F(NamedCommands, AnAlarmOfATypeWithoutAWordIsAddressedByAnEmptyOne)
 {
     session.cfg->system.services.alarm.type[5].type = 7;
     session.open();
@@ -323,7 +323,7 @@ TEST_F(Families, AnAlarmOfATypeWithoutAWordIsAddressedByAnEmptyOne)
     EXPECT_EQ(substituted("alarm $ID0 severity major", {0}), "alarm dummy severity major");
 }
 
-TEST_F(Families, NamesMayBringPlaceholdersAlong)
+TEST_F(NamedCommands, NamesMayBringPlaceholdersAlong)
 {
     add_user(0, "desk $ID1");
     add_user(1, "desk $ID");
@@ -334,7 +334,7 @@ TEST_F(Families, NamesMayBringPlaceholdersAlong)
     EXPECT_EQ(substituted("user $ID0 x", {2, 0, 0, 0, 0, 0, 0, 0, 0, 99}), "user \"   2 $ID12   99\" x");
 }
 
-TEST_F(Families, ANameThatFillsItsFieldHasNoTerminator)
+TEST_F(NamedCommands, ANameThatFillsItsFieldHasNoTerminator)
 {
     add_user(7, std::string(32, 'n'));
     put(session.cfg->system.user[7].password, "secret");
@@ -342,16 +342,16 @@ TEST_F(Families, ANameThatFillsItsFieldHasNoTerminator)
     EXPECT_EQ(substituted("user $ID0 priority", {7}), "user \"" + std::string(32, 'n') + "\" priority");
 }
 
-TEST_F(Families, LongTemplatesAreNotCut)
+TEST_F(NamedCommands, LongTemplatesAreNotCut)
 {
     session.open();
-    for (const Family& family : name_families)
+    for (const NamedCommand& named : named_commands)
         for (const std::size_t length : {970U, 980U, 990U, 1000U, 1010U, 1020U, 1030U, 5000U})
-            EXPECT_EQ(substituted(family.begin + ("$ID0 " + std::string(length, 'v')) + "$ID1", {3, 4}),
-                      family.named + std::string(length, 'v') + "   4");
+            EXPECT_EQ(substituted(named.begin + ("$ID0 " + std::string(length, 'v')) + "$ID1", {3, 4}),
+                      named.named + std::string(length, 'v') + "   4");
 }
 
-TEST_F(Families, AreNamelessOutsideASession)
+TEST_F(NamedCommands, AreNamelessOutsideASession)
 {
     session.open();
     finalize_diff();

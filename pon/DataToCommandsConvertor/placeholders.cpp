@@ -1,6 +1,7 @@
 #include "pon/DataToCommandsConvertor/placeholders.h"
 
 #include "pon/DataToCommandsConvertor.h"
+#include "pon/DataToCommandsConvertor/key.h"
 #include "pon/DataToCommandsConvertor/name_tables.h"
 
 #include <algorithm>
@@ -12,7 +13,6 @@ namespace {
 
 constexpr char mark[] = "$ID";
 constexpr std::size_t mark_size = sizeof mark - 1;
-constexpr int key_slots = 10;
 
 template <int Slots>
 const char* row_of(const char (&rows)[Slots][16], int index)
@@ -20,21 +20,22 @@ const char* row_of(const char (&rows)[Slots][16], int index)
     return index >= 0 && index < Slots ? rows[index] : nullptr;
 }
 
-/// A command family that shows its first identifier as a name. The value has no entry where it is null.
-struct Family {
+/// A command that shows its object by a name, empty where it is null. `prefix` is how it begins.
+struct NamedCommand {
     template <std::size_t N>
-    constexpr Family(const char (&begins)[N], const char* in_front, const char* behind, const char* (*name)(int))
-        : prefix(begins), size(N - 1), before(in_front), after(behind), value(name)
+    constexpr NamedCommand(const char (&begins)[N], const char* in_front, const char* behind,
+                           const char* (*lookup)(int))
+        : prefix(begins), size(N - 1), before(in_front), after(behind), name(lookup)
     {
     }
     const char* prefix;
     std::size_t size;
     const char* before; ///< what stands before the name and ...
     const char* after;  ///< ... behind it
-    const char* (*value)(int index);
+    const char* (*name)(int index);
 };
 
-constexpr Family families[] = {
+constexpr NamedCommand named_commands[] = {
     {"user $ID0", "user \"", "\" ", [](int i) { return name_in(user2id_connection, GCFG_USERS, i); }},
     {"log submodule $ID0", "log submodule ", " ", getCliSubmoduleType},
     {"alarm $ID0", "alarm ", " ",
@@ -46,25 +47,25 @@ constexpr Family families[] = {
     {"ip source-guard bind ip $ID0", "ip source-guard bind ip ", " ", [](int i) { return row_of(sourceguardip, i); }},
 };
 
-/// `first_mark` is where the first mark of the line stands: a family's prefix ends with it and the digit 0.
+/// `first_mark` is where the first mark of the line stands: a named command's prefix ends with it and the digit 0.
 void name_first_identifier(Text& line, std::size_t first_mark, int id)
 {
     const std::size_t prefix_size = first_mark + mark_size + 1;
-    for (const Family& family : families) {
-        if (family.size != prefix_size || line.size() < prefix_size ||
-            std::memcmp(line.data(), family.prefix, prefix_size) != 0)
+    for (const NamedCommand& named : named_commands) {
+        if (named.size != prefix_size || line.size() < prefix_size ||
+            std::memcmp(line.data(), named.prefix, prefix_size) != 0)
             continue;
-        const char* const value = family.value(id);
-        Text named;
-        named.append(family.before);
-        named.append(value ? value : "");
-        named.append(family.after);
-        if (named.failed()) {
+        const char* const name = named.name(id);
+        Text shown;
+        shown.append(named.before);
+        shown.append(name ? name : "");
+        shown.append(named.after);
+        if (shown.failed()) {
             line.fail();
             return;
         }
         // The blank behind the placeholder goes with it: the name brings its own.
-        line.replace_front(std::min(prefix_size + 1, line.size()), named);
+        line.replace_front(std::min(prefix_size + 1, line.size()), shown);
         return;
     }
 }
@@ -105,12 +106,12 @@ char* find_mark(char* from, const char* end)
 
 } // namespace
 
-void substitute(Text& line, const int* ids)
+void substitute(Text& line, const int* key)
 {
     const char* const first_mark = find_mark(line.data(), line.data() + line.size());
     if (!first_mark)
         return;
-    name_first_identifier(line, static_cast<std::size_t>(first_mark - line.data()), ids[0]);
+    name_first_identifier(line, static_cast<std::size_t>(first_mark - line.data()), key[of_object]);
 
     int slot = 0; // a mark without a number takes the number read last
     std::size_t done = 0;
@@ -125,7 +126,7 @@ void substitute(Text& line, const int* ids)
             line.append(' '); // a mark at the very end: four characters are written all the same
         if (done > line.size())
             return;
-        put_identifier(line.data() + done - identifier_width, ids[slot]);
+        put_identifier(line.data() + done - identifier_width, key[slot]);
     }
 }
 

@@ -6,7 +6,7 @@
 namespace pondiff {
 
 /// Replaces every "$ID" placeholder of a finished template, the ones that values brought along included.
-void substitute(Text& line, const int* ids);
+void substitute(Text& line, const int* key);
 
 } // namespace pondiff
 

@@ -112,7 +112,7 @@ void append_way(View from, View to, const int* key, Text& out)
     }
     if (edits_object(to)) {
         line(data_of(to).enter);
-        append_identifier(to, key[0], out);
+        append_identifier(to, key[of_object], out);
     }
 }
 

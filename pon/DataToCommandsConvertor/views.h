@@ -2,6 +2,7 @@
 #define PON_DATATOCOMMANDSCONVERTOR_VIEWS_H
 
 #include "pon/DataToCommandsConvertor.h"
+#include "pon/DataToCommandsConvertor/key.h"
 #include "pon/DataToCommandsConvertor/text.h"
 #include "pon/profile_kinds.h"
 
@@ -49,7 +50,7 @@ constexpr bool edits_object(View view)
 /// True when `key` names the object that the script stands at, were its view `view`.
 inline bool same_object(View view, const int* key)
 {
-    return !edits_object(view) || current_view.key[0] == key[0];
+    return !edits_object(view) || current_view.key[of_object] == key[of_object];
 }
 
 /// True when the script already stands in `view` at the object `key`.

@@ -61,6 +61,7 @@ bool getdiff_GPonCfg(GPonCfg* lhs, GPonCfg* rhs, int* key, List<char>& out)
     descend(changed_or_all, getdiff_GPonProfilesOlt, lhs->profiles_olt, rhs->profiles_olt, key, out);
     descend(changed_or_all, getdiff_GPonProfilesOnt, lhs->profiles_ont, rhs->profiles_ont, key, out);
     descend(changed_or_all, getdiff_GPonOltCfg, lhs->olt, rhs->olt, key, out);
-    walk(changed_only, getdiff_GPonOntCfg, lhs->ont, rhs->ont, 0, key, out); // equal ONTs are never shown
+    // Equal ONTs are never shown.
+    descend_each(changed_only, getdiff_GPonOntCfg, lhs->ont, rhs->ont, of_object, key, out);
     return false;
 }

@@ -2,6 +2,7 @@
 #define PON_COMMAND_FILE_GENERATOR_OPERATION_H
 
 #include "pon/DataToCommandsConvertor.h"
+#include "pon/DataToCommandsConvertor/key.h"
 #include "pon/DataToCommandsConvertor/views.h"
 #include "pon/diff_builder.h"
 #include "pon/diff_builder/script.h"
@@ -19,7 +20,7 @@ class Operation {
     /// current view goes back to where it was.
     char* finish(Ending ending);
 
-    int key[10] = {};
+    int key[key_slots] = {};
     Script script;
 
   private:

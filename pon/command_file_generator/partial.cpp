@@ -29,9 +29,9 @@ void diff_profiles(bool (*diff)(Profile*, Profile*, int*, List<char>&), Profile 
                    int id, int* key, List<char>& out)
 {
     if (id < 0) {
-        walk(changed_only, diff, lhs, rhs, 0, key, out);
+        descend_each(changed_only, diff, lhs, rhs, of_object, key, out);
     } else if (static_cast<std::size_t>(id) < Slots) {
-        key[0] = id;
+        key[of_object] = id;
         diff(&lhs[id], &rhs[id], key, out);
     }
 }
@@ -57,7 +57,7 @@ template <class Record, std::size_t Slots>
 void diff_record(bool (*diff)(Record*, Record*, int*, List<char>&), Record (&orig)[Slots], Record (&cfg)[Slots],
                  int* key, List<char>& out)
 {
-    walk(changed_only, diff, orig, cfg, 0, key, out);
+    descend_each(changed_only, diff, orig, cfg, of_object, key, out);
 }
 
 void diff_block(const char* block, GCfg& orig, GCfg& cfg, int* key, List<char>& out)
@@ -89,7 +89,7 @@ char* GetPonDiff(GPonCfg_t* orig, GPonCfg_t* cfg)
 char* GetGponOntDiff(GPonOntCfg_t* orig, GPonOntCfg_t* cfg, int ont_index)
 {
     return from_configure_view(Ending::plain, [&](int* key, List<char>& out) {
-        key[0] = ont_index;
+        key[of_object] = ont_index;
         getdiff_GPonOntCfg(orig, cfg, key, out);
     });
 }
@@ -97,7 +97,7 @@ char* GetGponOntDiff(GPonOntCfg_t* orig, GPonOntCfg_t* cfg, int ont_index)
 char* GetGponChannelDiff(GPonOltChannelCfg_t* orig, GPonOltChannelCfg_t* cfg, int channel_index)
 {
     return from_configure_view(Ending::plain, [&](int* key, List<char>& out) {
-        key[0] = channel_index;
+        key[of_object] = channel_index;
         getdiff_GPonOltChannelCfg(orig, cfg, key, out);
     });
 }

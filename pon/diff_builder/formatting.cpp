@@ -61,47 +61,47 @@ void append_channel_format(Text& out, const char* text, std::size_t size)
 void Value::append_to(Text& out) const
 {
     const auto bytes = [this] { return static_cast<const std::uint8_t*>(bytes_); };
-    switch (form_) {
-    case Form::text:
+    switch (notation_) {
+    case Notation::text:
         out.append(static_cast<const char*>(bytes_), size_);
         break;
-    case Form::decimal:
+    case Notation::decimal:
         out.append_decimal(number_);
         break;
-    case Form::natural:
+    case Notation::natural:
         out.append_natural(static_cast<std::uint64_t>(number_));
         break;
-    case Form::hexadecimal:
+    case Notation::hexadecimal:
         append_hexadecimal(out, static_cast<std::uint64_t>(number_), size_);
         break;
-    case Form::decimal_or_unused:
+    case Notation::decimal_or_unused:
         if (number_ == -1)
             out.append("unused");
         else
             out.append_decimal(number_);
         break;
-    case Form::ber_interval:
+    case Notation::ber_interval:
         if (static_cast<std::uint32_t>(number_) == no_ber_interval)
             out.append("none");
         else
             out.append_natural(static_cast<std::uint32_t>(number_));
         break;
-    case Form::channel_format:
+    case Notation::channel_format:
         append_channel_format(out, static_cast<const char*>(bytes_), size_);
         break;
-    case Form::ipv4:
+    case Notation::ipv4:
         append_ipv4(out, bytes());
         break;
-    case Form::ipv6:
+    case Notation::ipv6:
         append_ipv6(out, bytes_);
         break;
-    case Form::mac:
+    case Notation::mac:
         append_converted<mac_size>(out, convert_mac_bintostr, bytes());
         break;
-    case Form::serial:
+    case Notation::serial:
         append_converted<serial_size>(out, convert_sn_by_format, bytes());
         break;
-    case Form::engine_id:
+    case Notation::engine_id:
         append_converted<engine_id_size>(out, convert_snmpengineid_bintostr, bytes());
         break;
     }
@@ -113,18 +113,18 @@ const char* enum_word(const char* type, std::int64_t value)
     return word ? word : "";
 }
 
-void format(Text& out, const char* form, const Value* values, std::size_t count)
+void append_formatted(Text& out, const char* format, const Value* values, std::size_t count)
 {
-    while (const char* const conversion = std::strchr(form, '%')) {
-        out.append(form, static_cast<std::size_t>(conversion - form));
+    while (const char* const conversion = std::strchr(format, '%')) {
+        out.append(format, static_cast<std::size_t>(conversion - format));
         if (count != 0) {
             values->append_to(out);
             ++values;
             --count;
         }
-        form = conversion + 2;
+        format = conversion + 2;
     }
-    out.append(form);
+    out.append(format);
 }
 
 } // namespace pondiff

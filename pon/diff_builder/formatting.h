@@ -13,7 +13,7 @@ namespace pondiff {
 /// not outlive the record that it was taken from.
 class Value {
   public:
-    enum class Form : std::uint8_t {
+    enum class Notation : std::uint8_t {
         decimal,
         natural,
         hexadecimal,
@@ -29,36 +29,37 @@ class Value {
     };
 
     /// A constant text or name; null is the empty text.
-    Value(const char* text) : Value(Form::text, text ? text : "", text ? std::strlen(text) : 0) {}
-    /// A text field has no terminator that can be relied on: `text(field)` knows its array.
+    Value(const char* text) : Value(Notation::text, text ? text : "", text ? std::strlen(text) : 0) {}
+    /// A text field has no terminator that can be relied on: `text_of(field)` knows its array.
     Value(char* field) = delete;
-    Value(int number) : form_(Form::decimal), number_(number) {}
-    Value(unsigned number) : form_(Form::natural), number_(number) {}
+    Value(int number) : notation_(Notation::decimal), number_(number) {}
+    Value(unsigned number) : notation_(Notation::natural), number_(number) {}
 
     /// A text field: up to its terminator or the end of its array.
-    static Value text(const void* array, std::size_t capacity, Form form = Form::text)
+    static Value of_text(const void* array, std::size_t capacity, Notation notation = Notation::text)
     {
-        return {form, array, strnlen(static_cast<const char*>(array), capacity)};
+        return {notation, array, strnlen(static_cast<const char*>(array), capacity)};
     }
-    static Value number(Form form, std::int64_t number, std::uint8_t digits = 1)
+    static Value of_number(Notation notation, std::int64_t number, std::uint8_t digits = 1)
     {
-        Value value(form, nullptr, digits);
+        Value value(notation, nullptr, digits);
         value.number_ = number;
         return value;
     }
-    static Value bytes(Form form, const void* bytes) { return {form, bytes, 0}; }
+    static Value of_bytes(Notation notation, const void* bytes) { return {notation, bytes, 0}; }
 
     void append_to(Text& out) const;
     /// Whether what is written may hold a placeholder of its own.
     bool may_hold_mark() const
     {
-        return form_ >= Form::mac || (form_ >= Form::text && std::memchr(bytes_, '$', size_) != nullptr);
+        return notation_ >= Notation::mac ||
+               (notation_ >= Notation::text && std::memchr(bytes_, '$', size_) != nullptr);
     }
 
   private:
-    Value(Form form, const void* bytes, std::size_t size) : form_(form), size_(size), bytes_(bytes) {}
+    Value(Notation notation, const void* bytes, std::size_t size) : notation_(notation), size_(size), bytes_(bytes) {}
 
-    Form form_;
+    Notation notation_;
     std::size_t size_ = 0; ///< of a text; the least count of digits of a hexadecimal number
     union {
         std::int64_t number_;
@@ -66,32 +67,32 @@ class Value {
     };
 };
 
-/// Values of record fields for commands with more than one.
-inline Value ipv4(const std::uint8_t (&address)[4])
+/// Values of record fields for commands that show more than one.
+inline Value ipv4_of(const std::uint8_t (&address)[4])
 {
-    return Value::bytes(Value::Form::ipv4, address);
+    return Value::of_bytes(Value::Notation::ipv4, address);
 }
 
-inline Value ipv6(const std::uint8_t (&address)[16])
+inline Value ipv6_of(const std::uint8_t (&address)[16])
 {
-    return Value::bytes(Value::Form::ipv6, address);
+    return Value::of_bytes(Value::Notation::ipv6, address);
 }
 
-inline Value mac(const std::uint8_t (&address)[6])
+inline Value mac_of(const std::uint8_t (&address)[6])
 {
-    return Value::bytes(Value::Form::mac, address);
-}
-
-template <std::size_t N>
-Value text(const char (&field)[N])
-{
-    return Value::text(field, N);
+    return Value::of_bytes(Value::Notation::mac, address);
 }
 
 template <std::size_t N>
-Value channel_format(const char (&field)[N])
+Value text_of(const char (&field)[N])
 {
-    return Value::text(field, N, Value::Form::channel_format);
+    return Value::of_text(field, N);
+}
+
+template <std::size_t N>
+Value channel_format_of(const char (&field)[N])
+{
+    return Value::of_text(field, N, Value::Notation::channel_format);
 }
 
 /// Room for what each of the platform's converters may write, terminator included.
@@ -103,7 +104,7 @@ constexpr std::size_t engine_id_size = 29;
 const char* enum_word(const char* type, std::int64_t value);
 
 /// Writes a template: each of its conversions (%s, %d or %u, the value knows how it is written) takes the next value.
-void format(Text& out, const char* form, const Value* values, std::size_t count);
+void append_formatted(Text& out, const char* format, const Value* values, std::size_t count);
 
 } // namespace pondiff
 

@@ -22,7 +22,7 @@ template <class Profile>
 void emit_profile_name(Rule rule, const Profile* lhs, const Profile* rhs, const Where& where)
 {
     if (forced(rule) || (lhs->exist == 1 && wanted(changed_only, lhs->name, rhs->name)))
-        emit(where, "name \"%s\"", text(rhs->name));
+        emit(where, "name \"%s\"", text_of(rhs->name));
 }
 
 /// A profile that did not exist is created by entering its view: the navigation stands alone.
@@ -37,7 +37,7 @@ template <class Profile>
 void emit_profile_description(const Profile* lhs, const Profile* rhs, const Where& where)
 {
     if (wanted(changed_or_all, lhs->description, rhs->description))
-        emit(where, "description \"%s\"", text(rhs->description));
+        emit(where, "description \"%s\"", text_of(rhs->description));
 }
 
 /// How most kinds begin.
@@ -52,10 +52,11 @@ void emit_profile_head(const Profile* lhs, const Profile* rhs, const Where& wher
 /// A format by which a relay agent identifies a subscriber, and whether what it gives is sent in binary form. The mode
 /// shows with its format: by itself it is no change.
 template <std::size_t N>
-void emit_id_format(const Where& where, const char* form, const char (&lhs)[N], const char (&rhs)[N], GDataMode_t mode)
+void emit_id_format(const Where& where, const char* command, const char (&lhs)[N], const char (&rhs)[N],
+                    GDataMode_t mode)
 {
     if (wanted(changed_or_all, lhs, rhs))
-        emit(where, form, channel_format(rhs), mode != 0 ? " binary" : "");
+        emit(where, command, channel_format_of(rhs), mode != 0 ? " binary" : "");
 }
 
 /// The version and file of the ONT's configuration, one command. A new file is seen only together with a new version.
@@ -65,9 +66,10 @@ void emit_ont_config(const Profile* lhs, const Profile* rhs, const Where& where)
     if (!wanted(changed_or_all, lhs->ont_config_version, rhs->ont_config_version))
         return;
     if (wanted(changed_or_all, lhs->ont_config_file, rhs->ont_config_file))
-        emit(where, "ont-config version \"%s\" file \"%s\"", text(rhs->ont_config_version), text(rhs->ont_config_file));
+        emit(where, "ont-config version \"%s\" file \"%s\"", text_of(rhs->ont_config_version),
+             text_of(rhs->ont_config_file));
     else
-        emit(where, "ont-config version \"%s\"", text(rhs->ont_config_version));
+        emit(where, "ont-config version \"%s\"", text_of(rhs->ont_config_version));
 }
 
 } // namespace pondiff

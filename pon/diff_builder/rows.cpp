@@ -29,21 +29,20 @@ std::int64_t load(const char* field, const RowData& row)
     }
 }
 
-bool is_scalar(const RowData& row)
+bool holds_number(const RowData& row)
 {
-    return row.kind != RowData::Kind::text &&
-           (row.kind != RowData::Kind::value || row.how <= Value::Form::ber_interval);
+    return row.notation <= Value::Notation::ber_interval;
 }
 
 /// The values of a template: the one that leads all of the table's commands, if there is one, and the row's own.
-void format_command(Text& line, const Where& where, const char* form, const Value* values, std::size_t count)
+void format_command(Text& line, const Where& where, const char* format, const Value* values, std::size_t count)
 {
-    if (const char* const behind_lead = where.lead ? std::strchr(form, '%') : nullptr) {
-        line.append(form, static_cast<std::size_t>(behind_lead - form));
+    if (const char* const behind_lead = where.lead ? std::strchr(format, '%') : nullptr) {
+        line.append(format, static_cast<std::size_t>(behind_lead - format));
         where.lead->append_to(line);
-        form = behind_lead + 2;
+        format = behind_lead + 2;
     }
-    format(line, form, values, count);
+    append_formatted(line, format, values, count);
 }
 
 } // namespace
@@ -61,25 +60,25 @@ bool navigate(const Where& where)
     return false;
 }
 
-bool command_values(const Where& where, const char* form, const Value* values, std::size_t count)
+bool command_values(const Where& where, const char* format, const Value* values, std::size_t count)
 {
     PON_SCRATCH Text line;
-    format_command(line, where, form, values, count);
+    format_command(line, where, format, values, count);
     substitute(line, where.key);
     return push(where.out, line);
 }
 
-bool append_values(List<char>& out, const char* form, const Value* values, std::size_t count)
+bool append_values(List<char>& out, const char* format, const Value* values, std::size_t count)
 {
     PON_SCRATCH Text line;
-    format(line, form, values, count);
+    append_formatted(line, format, values, count);
     return push(out, line);
 }
 
 namespace {
 
 /// `emit` of a row's template, whose parts are known: up to the first conversion, between the two, and the rest.
-void emit_parts(const Where& where, const char* form, const RowData::Parts& parts, const Value* value)
+void emit_parts(const Where& where, const char* format, const RowData::Parts& parts, const Value* value)
 {
     constexpr std::uint8_t none = RowData::Parts::none;
     if (!navigate(where))
@@ -90,7 +89,7 @@ void emit_parts(const Where& where, const char* form, const RowData::Parts& part
     std::size_t mark = parts.mark; // where the placeholder comes to stand
     bool values_hold_marks = false;
     const auto fill = [&](const Value& filling) {
-        text.append(form + done, next - done);
+        text.append(format + done, next - done);
         const std::size_t before = text.size();
         filling.append_to(text);
         values_hold_marks = values_hold_marks || filling.may_hold_mark();
@@ -103,12 +102,13 @@ void emit_parts(const Where& where, const char* form, const RowData::Parts& part
         fill(*where.lead);
     if (value && next != none)
         fill(*value);
-    text.append(form + done, parts.size - done);
-    // Slot 0 may be shown as a name; every other placeholder of a template is a number in its own place.
-    if (values_hold_marks || (parts.mark != none && form[parts.mark + 3] == '0'))
+    text.append(format + done, parts.size - done);
+    const int slot = parts.mark != none ? format[parts.mark + 3] - '0' : -1;
+    // The object may be shown by a name; every other placeholder of a template is a number in its own place.
+    if (values_hold_marks || slot == of_object)
         substitute(text, where.key);
-    else if (parts.mark != none && !text.failed())
-        put_identifier(text.data() + mark, where.key[form[parts.mark + 3] - '0']);
+    else if (slot != -1 && !text.failed())
+        put_identifier(text.data() + mark, where.key[slot]);
     push(where.out, text);
 }
 
@@ -118,30 +118,32 @@ void emit_row(const RowData& row, bool force, const void* lhs, const void* rhs, 
 {
     const char* const before = static_cast<const char*>(lhs) + row.offset;
     const char* const field = static_cast<const char*>(rhs) + row.offset;
-    const bool scalar = is_scalar(row);
+    const bool is_number = holds_number(row);
     const std::int64_t mask = row.kind == RowData::Kind::flag && row.detail != 0 ? row.detail : -1;
-    const std::int64_t number = scalar ? load(field, row) & mask : 0;
-    if (!force && (scalar ? number == (load(before, row) & mask) : std::memcmp(before, field, row.compared) == 0))
+    const std::int64_t number = is_number ? load(field, row) & mask : 0;
+    if (!force && (is_number ? number == (load(before, row) & mask) : std::memcmp(before, field, row.compared) == 0))
         return;
-    const auto emit_value = [&](const Value& value) { emit_parts(where, row.form, row.parts, &value); };
+    const auto emit_value = [&](const Value& value) { emit_parts(where, row.format, row.parts, &value); };
     switch (row.kind) {
     case RowData::Kind::flag:
         if (number != 0)
-            emit_parts(where, row.form, row.parts, nullptr);
+            emit_parts(where, row.format, row.parts, nullptr);
         else
-            emit_parts(where, row.extra.text, row.extra_parts, nullptr);
+            emit_parts(where, row.extra.words, row.extra_parts, nullptr);
         break;
-    case RowData::Kind::value:
-        emit_value(scalar ? Value::number(row.how, number, row.detail) : Value::bytes(row.how, field));
-        break;
-    case RowData::Kind::text:
-        emit_value(Value::text(field, row.size, row.how));
+    case RowData::Kind::content:
+        if (is_number)
+            emit_value(Value::of_number(row.notation, number, row.detail));
+        else if (row.notation == Value::Notation::text || row.notation == Value::Notation::channel_format)
+            emit_value(Value::of_text(field, row.size, row.notation));
+        else
+            emit_value(Value::of_bytes(row.notation, field));
         break;
     case RowData::Kind::word:
         emit_value(row.extra.name(static_cast<int>(number)));
         break;
     case RowData::Kind::enum_word:
-        emit_value(enum_word(row.extra.text, number));
+        emit_value(enum_word(row.extra.words, number));
         break;
     case RowData::Kind::reference:
         if (const char* const name = row.extra.name(static_cast<int>(number)))

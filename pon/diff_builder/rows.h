@@ -3,13 +3,14 @@
 
 /// @file
 /// What a record diff is written with. Most of it is a table of rows, each a field and its command, that
-/// `emit_changed` walks; what does not fit a row is plain code with `emit`, `navigate` and `append`. They own every
-/// buffer: no record diff sees one.
+/// `emit_changed` goes through; what does not fit a row is plain code with `emit`, `navigate` and `append`. They own
+/// every buffer: no record diff sees one.
 ///
 /// To add a command: add a row where it belongs in the order of the commands. The verb says how the value becomes
 /// text, the field's width and sign come from the struct.
 
 #include "pon/DataToCommandsConvertor.h"
+#include "pon/DataToCommandsConvertor/key.h"
 #include "pon/DataToCommandsConvertor/views.h"
 #include "pon/diff_builder.h"
 #include "pon/diff_builder/comparison.h"
@@ -59,61 +60,60 @@ struct Where {
 bool navigate(const Where& where);
 
 /// Formats the template, substitutes placeholders and appends, without navigation.
-bool command_values(const Where& where, const char* form, const Value* values, std::size_t count);
+bool command_values(const Where& where, const char* format, const Value* values, std::size_t count);
 
 /// Formats and appends, without navigation or substitution.
-bool append_values(List<char>& out, const char* form, const Value* values, std::size_t count);
+bool append_values(List<char>& out, const char* format, const Value* values, std::size_t count);
 
 template <class... Values>
-bool command(const Where& where, const char* form, Values... values)
+bool command(const Where& where, const char* format, Values... values)
 {
     const Value list[] = {Value(values)..., Value("")};
-    return command_values(where, form, list, sizeof...(values));
+    return command_values(where, format, list, sizeof...(values));
 }
 
 template <class... Values>
-bool append(List<char>& out, const char* form, Values... values)
+bool append(List<char>& out, const char* format, Values... values)
 {
     const Value list[] = {Value(values)..., Value("")};
-    return append_values(out, form, list, sizeof...(values));
+    return append_values(out, format, list, sizeof...(values));
 }
 
 /// What nearly every command is: the navigation to its view, then the command.
 template <class... Values>
-bool emit(const Where& where, const char* form, Values... values)
+bool emit(const Where& where, const char* format, Values... values)
 {
-    return navigate(where) && command(where, form, values...);
+    return navigate(where) && command(where, format, values...);
 }
 
 // ------------------------------------------------------------------------------------------------------------ rows
 
 struct RowData {
     enum class Kind : std::uint8_t {
-        flag,      ///< `form` when the field, or a bit of `mask` in it, is set; `extra.text` when none is
-        value,     ///< `form` with the number or the bytes as `how` writes them
-        text,      ///< `form` with the characters of the field
-        word,      ///< `form` with the word that `extra.name` gives; null is the empty text
-        enum_word, ///< `form` with the registry's word in the vocabulary `extra.text`
-        reference, ///< `form` with the name that `extra.name` gives; null suppresses the command
+        flag,      ///< `format` when the field, or a bit of `mask` in it, is set; `extra.words` when none is
+        content,   ///< `format` with what the field holds, as `notation` writes it
+        word,      ///< `format` with the word that `extra.name` gives; null is the empty text
+        enum_word, ///< `format` with the registry's word in the vocabulary `extra.words`
+        reference, ///< `format` with the name that `extra.name` gives; null suppresses the command
     };
     union Extra {
-        constexpr Extra(const char* words = nullptr) : text(words) {}
+        constexpr Extra(const char* literal = nullptr) : words(literal) {}
         constexpr Extra(const char* (*lookup)(int)) : name(lookup) {}
-        const char* text;
+        const char* words; ///< a command, or the name of a vocabulary
         const char* (*name)(int);
     };
     /// The parts of a template, worked out when it is compiled: none is searched when it is emitted, which saves a
     /// sixth of what a line costs.
     struct Parts {
-        constexpr Parts(const char* form)
+        constexpr Parts(const char* format)
         {
-            for (; form && form[size] != '\0'; ++size) {
-                if (form[size] == '%') {
+            for (; format && format[size] != '\0'; ++size) {
+                if (format[size] == '%') {
                     if (second != none)
                         two_conversions_at_the_most();
                     (first == none ? first : second) = size;
                 }
-                if (form[size] == '$') {
+                if (format[size] == '$') {
                     if (mark != none)
                         one_placeholder_at_the_most();
                     mark = size;
@@ -132,16 +132,16 @@ struct RowData {
         std::uint8_t mark = none; ///< where the placeholder stands
         std::uint8_t size = 0;
     };
-    const char* form;
+    const char* format;
     Extra extra;
-    Parts parts;       ///< of `form`
-    Parts extra_parts; ///< of `extra.text`, where it is a command
+    Parts parts;       ///< of `format`
+    Parts extra_parts; ///< of `extra.words`, where it is a command
     std::uint16_t offset;
     std::uint16_t size;
     std::uint16_t compared;
     Kind kind;
-    Value::Form how;
-    std::uint8_t detail; ///< flag: the bits that count, 0 for the whole field; value: least hexadecimal digits
+    Value::Notation notation;
+    std::uint8_t detail; ///< flag: the bits that count, 0 for the whole field; content: least hexadecimal digits
     bool is_signed;
 };
 
@@ -154,18 +154,19 @@ struct Row {
 namespace rows {
 
 template <class Record, class Type>
-constexpr Row<Record> row(Member<Record, Type> field, RowData::Kind kind, const char* form, RowData::Extra extra = {},
-                          Value::Form how = Value::Form::text, std::uint8_t detail = 0)
+constexpr Row<Record> row(Member<Record, Type> field, RowData::Kind kind, const char* format, RowData::Extra extra = {},
+                          Value::Notation notation = Value::Notation::decimal, std::uint8_t detail = 0)
 {
     const bool two_commands = kind == RowData::Kind::flag;
-    return {{form, extra, form, two_commands ? extra.text : nullptr, static_cast<std::uint16_t>(field.offset),
-             sizeof(Type), sizeof(Type), kind, how, detail, std::is_signed_v<Type>}};
+    return {{format, extra, format, two_commands ? extra.words : nullptr, static_cast<std::uint16_t>(field.offset),
+             sizeof(Type), sizeof(Type), kind, notation, detail, std::is_signed_v<Type>}};
 }
 
 template <class Record, class Type>
-constexpr Row<Record> value(Member<Record, Type> field, const char* form, Value::Form how, std::uint8_t digits = 1)
+constexpr Row<Record> content(Member<Record, Type> field, const char* format, Value::Notation notation,
+                              std::uint8_t digits = 1)
 {
-    return row(field, RowData::Kind::value, form, {}, how, digits);
+    return row(field, RowData::Kind::content, format, {}, notation, digits);
 }
 
 /// Of 32 bits at the most: no record has wider ones.
@@ -205,96 +206,96 @@ constexpr Row<R> whenever(Member<R, T> field, const char* command)
 
 /// In decimal, with the sign that the field's type has.
 template <class R, class T>
-constexpr Row<R> number(Member<R, T> field, const char* form)
+constexpr Row<R> number(Member<R, T> field, const char* format)
 {
     static_assert(rows::is_number<T>);
-    return rows::value(field, form, Value::Form::decimal);
+    return rows::content(field, format, Value::Notation::decimal);
 }
 
 /// An unsigned field of 32 bits shown as if it were signed: values of 2^31 and above are negative.
 template <class R, class T>
-constexpr Row<R> number_as_signed(Member<R, T> field, const char* form)
+constexpr Row<R> number_as_signed(Member<R, T> field, const char* format)
 {
     static_assert(std::is_same_v<T, std::uint32_t>);
-    Row<R> row = number(field, form);
+    Row<R> row = number(field, format);
     row.data.is_signed = true;
     return row;
 }
 
 template <class R, class T>
-constexpr Row<R> number_or_unused(Member<R, T> field, const char* form)
+constexpr Row<R> number_or_unused(Member<R, T> field, const char* format)
 {
     static_assert(rows::is_number<T>);
-    return rows::value(field, form, Value::Form::decimal_or_unused);
+    return rows::content(field, format, Value::Notation::decimal_or_unused);
 }
 
 template <class R, class T>
-constexpr Row<R> ber_interval(Member<R, T> field, const char* form)
+constexpr Row<R> ber_interval(Member<R, T> field, const char* format)
 {
     static_assert(std::is_same_v<T, std::uint32_t>);
-    return rows::value(field, form, Value::Form::ber_interval);
+    return rows::content(field, format, Value::Notation::ber_interval);
 }
 
 /// 0x and at least so many upper-case digits.
 template <class R, class T>
-constexpr Row<R> hexadecimal(Member<R, T> field, std::uint8_t digits, const char* form)
+constexpr Row<R> hexadecimal(Member<R, T> field, std::uint8_t digits, const char* format)
 {
     static_assert(rows::is_number<T> && std::is_unsigned_v<T>);
-    return rows::value(field, form, Value::Form::hexadecimal, digits);
+    return rows::content(field, format, Value::Notation::hexadecimal, digits);
 }
 
 template <class R, class T>
-constexpr Row<R> ipv4(Member<R, T> field, const char* form)
+constexpr Row<R> ipv4(Member<R, T> field, const char* format)
 {
     static_assert(rows::is_bytes<T, 4>);
-    return rows::value(field, form, Value::Form::ipv4);
+    return rows::content(field, format, Value::Notation::ipv4);
 }
 
 template <class R, class T>
-constexpr Row<R> ipv6(Member<R, T> field, const char* form)
+constexpr Row<R> ipv6(Member<R, T> field, const char* format)
 {
     static_assert(rows::is_bytes<T, 16>);
-    return rows::value(field, form, Value::Form::ipv6);
+    return rows::content(field, format, Value::Notation::ipv6);
 }
 
 template <class R, class T>
-constexpr Row<R> serial(Member<R, T> field, const char* form)
+constexpr Row<R> serial(Member<R, T> field, const char* format)
 {
     static_assert(rows::is_bytes<T, 8>);
-    return rows::value(field, form, Value::Form::serial);
+    return rows::content(field, format, Value::Notation::serial);
 }
 
 template <class R, class T>
-constexpr Row<R> engine_id(Member<R, T> field, const char* form)
+constexpr Row<R> engine_id(Member<R, T> field, const char* format)
 {
     static_assert(rows::is_bytes<T, 13>);
-    return rows::value(field, form, Value::Form::engine_id);
+    return rows::content(field, format, Value::Notation::engine_id);
 }
 
 /// The characters of the field, as stored.
 template <class R, class T>
-constexpr Row<R> text(Member<R, T> field, const char* form)
+constexpr Row<R> text(Member<R, T> field, const char* format)
 {
     static_assert(std::is_same_v<std::remove_extent_t<T>, char> && std::is_array_v<T>);
-    return rows::row(field, RowData::Kind::text, form);
+    return rows::content(field, format, Value::Notation::text);
 }
 
 /// The same for a format in which the marker of the GPON port is renamed.
 template <class R, std::size_t N>
-constexpr Row<R> channel_format(Member<R, char[N]> field, const char* form)
+constexpr Row<R> channel_format(Member<R, char[N]> field, const char* format)
 {
-    Row<R> row = text(field, form);
-    row.data.how = Value::Form::channel_format;
+    Row<R> row = text(field, format);
+    row.data.notation = Value::Notation::channel_format;
     return row;
 }
 
 /// An ONT password: at most 10 characters of it are shown. How many of its bytes count as a change differs: those that
 /// are shown in an ONT, all in a template.
 template <class R, class T>
-constexpr Row<R> ont_password(Member<R, T> field, const char* form, std::uint16_t compared = sizeof(T))
+constexpr Row<R> ont_password(Member<R, T> field, const char* format, std::uint16_t compared = sizeof(T))
 {
     static_assert(std::is_same_v<T, char[11]>);
-    Row<R> row = text(field, form);
+    Row<R> row = text(field, format);
     row.data.size = 10;
     row.data.compared = compared;
     return row;
@@ -302,26 +303,26 @@ constexpr Row<R> ont_password(Member<R, T> field, const char* form, std::uint16_
 
 /// The word of the device-wide registry in the vocabulary `type`.
 template <class R, class T>
-constexpr Row<R> enumeration(Member<R, T> field, const char* type, const char* form)
+constexpr Row<R> enumeration(Member<R, T> field, const char* type, const char* format)
 {
     static_assert(rows::is_number<T>);
-    return rows::row(field, RowData::Kind::enum_word, form, type);
+    return rows::row(field, RowData::Kind::enum_word, format, type);
 }
 
 /// The word of one of the library's own vocabularies.
 template <class R, class T>
-constexpr Row<R> word(Member<R, T> field, const char* (*vocabulary)(int), const char* form)
+constexpr Row<R> word(Member<R, T> field, const char* (*vocabulary)(int), const char* format)
 {
     static_assert(rows::is_number<T>);
-    return rows::row(field, RowData::Kind::word, form, vocabulary);
+    return rows::row(field, RowData::Kind::word, format, vocabulary);
 }
 
 /// A profile or template that the field refers to, by its name; nothing is emitted while the slot holds none.
 template <class R, class T>
-constexpr Row<R> reference(Member<R, T> field, const char* (*lookup)(int), const char* form)
+constexpr Row<R> reference(Member<R, T> field, const char* (*lookup)(int), const char* format)
 {
     static_assert(std::is_same_v<T, std::int16_t>);
-    return rows::row(field, RowData::Kind::reference, form, lookup);
+    return rows::row(field, RowData::Kind::reference, format, lookup);
 }
 
 /// The same row for element `index` of the array whose first element it names.
@@ -362,8 +363,8 @@ void descend(Rule rule, Result (*diff)(Part*, Part*, int*, List<char>&), Part& l
 
 /// The same for each element of an array in turn: its index goes into the key's slot first, wanted or not.
 template <class Result, class Element, std::size_t N>
-void walk(Rule rule, Result (*diff)(Element*, Element*, int*, List<char>&), Element (&lhs)[N], Element (&rhs)[N],
-          int slot, int* key, List<char>& out)
+void descend_each(Rule rule, Result (*diff)(Element*, Element*, int*, List<char>&), Element (&lhs)[N],
+                  Element (&rhs)[N], KeySlot slot, int* key, List<char>& out)
 {
     for (std::size_t i = 0; i < N; ++i) {
         key[slot] = static_cast<int>(i);

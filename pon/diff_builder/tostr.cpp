@@ -28,9 +28,9 @@ char* heap_text(const Value& value, std::size_t capacity)
 
 constexpr std::size_t number_capacity = 256;
 
-char* heap_number(Value::Form form, std::int64_t number, std::uint8_t digits = 1)
+char* heap_number(Value::Notation notation, std::int64_t number, std::uint8_t digits = 1)
 {
-    return heap_text(Value::number(form, number, digits), number_capacity);
+    return heap_text(Value::of_number(notation, number, digits), number_capacity);
 }
 
 template <class T>
@@ -43,29 +43,29 @@ char* heap_array(const T* values, int count, std::size_t widest)
         text.append_decimal(values[i]);
     }
     const std::size_t capacity = count > 0 ? static_cast<std::size_t>(count) * widest : 1;
-    return text.failed() ? nullptr : heap_text(Value::text(text.c_str(), text.size()), capacity);
+    return text.failed() ? nullptr : heap_text(Value::of_text(text.c_str(), text.size()), capacity);
 }
 
 } // namespace
 
 char* u32_tostr(unsigned int value)
 {
-    return heap_number(Value::Form::natural, value);
+    return heap_number(Value::Notation::natural, value);
 }
 
 char* u16_tostr(unsigned short value)
 {
-    return heap_number(Value::Form::natural, value);
+    return heap_number(Value::Notation::natural, value);
 }
 
 char* int_tostr(int value)
 {
-    return heap_number(Value::Form::decimal, value);
+    return heap_number(Value::Notation::decimal, value);
 }
 
 char* u64_tostr(unsigned long long value)
 {
-    return heap_number(Value::Form::natural, static_cast<std::int64_t>(value));
+    return heap_number(Value::Notation::natural, static_cast<std::int64_t>(value));
 }
 
 char* double_tostr(double value)
@@ -80,64 +80,64 @@ char* double_tostr(double value)
 
 char* int_tostr_or_unused(int value)
 {
-    return heap_number(Value::Form::decimal_or_unused, value);
+    return heap_number(Value::Notation::decimal_or_unused, value);
 }
 
 char* BerInterval_tostr(unsigned int value)
 {
-    return heap_number(Value::Form::ber_interval, value);
+    return heap_number(Value::Notation::ber_interval, value);
 }
 
 char* u64_tostr_hex(unsigned long long value)
 {
-    return heap_number(Value::Form::hexadecimal, static_cast<std::int64_t>(value));
+    return heap_number(Value::Notation::hexadecimal, static_cast<std::int64_t>(value));
 }
 
 char* u32_tostr_hex(unsigned int value)
 {
-    return heap_number(Value::Form::hexadecimal, value);
+    return heap_number(Value::Notation::hexadecimal, value);
 }
 
 char* u16_tostr_hex(unsigned short value)
 {
-    return heap_number(Value::Form::hexadecimal, value, 4);
+    return heap_number(Value::Notation::hexadecimal, value, 4);
 }
 
 char* int_3byte_tostr_hex(int value)
 {
-    return heap_number(Value::Form::hexadecimal, static_cast<unsigned>(value), 6);
+    return heap_number(Value::Notation::hexadecimal, static_cast<unsigned>(value), 6);
 }
 
 char* int_tostr_hex(int value)
 {
-    return heap_number(Value::Form::hexadecimal, static_cast<unsigned>(value), 8);
+    return heap_number(Value::Notation::hexadecimal, static_cast<unsigned>(value), 8);
 }
 
 char* GIPAddr_t_tostr(unsigned char* address)
 {
-    return heap_text(Value::bytes(Value::Form::ipv4, address), 16);
+    return heap_text(Value::of_bytes(Value::Notation::ipv4, address), 16);
 }
 
 char* GMACAddr_t_tostr(unsigned char* address)
 {
-    return heap_text(Value::bytes(Value::Form::mac, address), pondiff::mac_size);
+    return heap_text(Value::of_bytes(Value::Notation::mac, address), pondiff::mac_size);
 }
 
 char* GOntSerial_t_tostr(unsigned char* serial)
 {
-    return heap_text(Value::bytes(Value::Form::serial, serial), pondiff::serial_size);
+    return heap_text(Value::of_bytes(Value::Notation::serial, serial), pondiff::serial_size);
 }
 
 char* GSNMPEngineID_t_tostr(unsigned char* id)
 {
-    return heap_text(Value::bytes(Value::Form::engine_id, id), pondiff::engine_id_size);
+    return heap_text(Value::of_bytes(Value::Notation::engine_id, id), pondiff::engine_id_size);
 }
 
 char* GOntPassword_t_tostr(char* password)
 {
     constexpr std::size_t longest_password = 10;
     constexpr std::size_t capacity = 32;
-    return heap_text(Value::text(password, longest_password), capacity);
+    return heap_text(Value::of_text(password, longest_password), capacity);
 }
 
 char* GEncryptionKey_t_tostr(unsigned char* key)

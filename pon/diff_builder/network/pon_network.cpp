@@ -13,6 +13,6 @@ bool getdiff_GPonNetworkCfg(GPonNetworkCfg* lhs, GPonNetworkCfg* rhs, int* key, 
     if (nothing_to_say(lhs, rhs))
         return false;
     emit_changed(commands, changed_or_common, lhs, rhs, {View::configure, key, out});
-    walk(changed_or_common, getdiff_GVlanTagEx, lhs->terminal_vlan, rhs->terminal_vlan, 0, key, out);
+    descend_each(changed_or_common, getdiff_GVlanTagEx, lhs->terminal_vlan, rhs->terminal_vlan, of_object, key, out);
     return false;
 }

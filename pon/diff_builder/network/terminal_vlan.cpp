@@ -14,13 +14,13 @@ bool getdiff_GVlanTagEx(GVlanTagEx* lhs, GVlanTagEx* rhs, int* key, List<char>& 
         return false;
     if (rhs->exists == 0) {
         if (lhs->exists != 0 && lhs->name[0] != '\0')
-            append(out, "no gpon network terminal-vlan \"%s\"", text(lhs->name));
+            append(out, "no gpon network terminal-vlan \"%s\"", text_of(lhs->name));
         return false;
     }
     // A change of the VLAN id or the priority names the VLAN by itself; a rename leaves the old name behind.
     if (lhs->tag.vid == rhs->tag.vid && lhs->tag.prio == rhs->tag.prio)
         emit_changed(name, changed_only, lhs, rhs, {View::configure, key, out});
-    const Value new_name = text(rhs->name);
+    const Value new_name = text_of(rhs->name);
     emit_changed(tag, changed_or_common, lhs, rhs, {View::configure, key, out, &new_name});
     return false;
 }

@@ -7,13 +7,13 @@ namespace {
 /// A relay profile of one VLAN. Whether the entry exists is not looked at: one whose slot holds no profile has no
 /// command.
 template <class Redefinition>
-void emit_redefinition(const Redefinition& lhs, const Redefinition& rhs, const char* profile, const char* form,
+void emit_redefinition(const Redefinition& lhs, const Redefinition& rhs, const char* profile, const char* format,
                        const Where& where)
 {
     if (!profile)
         return;
     if (forced(changed_or_profile_common) || lhs.vid != rhs.vid || lhs.profile != rhs.profile)
-        emit(where, form, profile, rhs.vid);
+        emit(where, format, profile, rhs.vid);
 }
 
 /// There is no command that switches the mode off.
@@ -66,10 +66,10 @@ bool getdiff_GPonOltGeneralCfg(GPonOltGeneralCfg* lhs, GPonOltGeneralCfg* rhs, i
     descend(changed_or_common, getdiff_GPonOltGeneralDBAShortCycleCfg, lhs->dba_short_cycle, rhs->dba_short_cycle, key,
             out);
     descend(changed_or_common, getdiff_GPonOltGeneralL3Cfg, lhs->l3, rhs->l3, key, out);
-    walk(changed_or_common, getdiff_GPonOltDhcpraCfgByVid, lhs->profile_olt_dhcpra_redefinition,
-         rhs->profile_olt_dhcpra_redefinition, 0, key, out);
-    walk(changed_or_common, getdiff_GPonOltDhcpv6raCfgByVid, lhs->profile_olt_dhcpv6ra_redefinition,
-         rhs->profile_olt_dhcpv6ra_redefinition, 0, key, out);
+    descend_each(changed_or_common, getdiff_GPonOltDhcpraCfgByVid, lhs->profile_olt_dhcpra_redefinition,
+                 rhs->profile_olt_dhcpra_redefinition, of_object, key, out);
+    descend_each(changed_or_common, getdiff_GPonOltDhcpv6raCfgByVid, lhs->profile_olt_dhcpv6ra_redefinition,
+                 rhs->profile_olt_dhcpv6ra_redefinition, of_object, key, out);
     descend(changed_or_common, getdiff_GPonOltGeneralDatapathCfg, lhs->datapath, rhs->datapath, key, out);
     descend(changed_or_common, getdiff_GPonOntEncryption, lhs->encryption, rhs->encryption, key, out);
     return false;
@@ -105,12 +105,12 @@ bool getdiff_GPonOltGeneralRedundancyCfg(GPonOltGeneralRedundancyCfg* /*lhs*/, G
     return false;
 }
 
-/// Has no commands, and neither have its parts; the walk over them leaves its last index in the key.
+/// Has no commands, and neither have its parts; what goes through them leaves its last index in the key.
 bool getdiff_GPonOltGeneralL3Cfg(GPonOltGeneralL3Cfg* lhs, GPonOltGeneralL3Cfg* rhs, int* key, List<char>& out)
 {
     if (nothing_to_say(lhs, rhs))
         return false;
-    walk(changed_or_all, getdiff_GPonOltGeneralL3DHCPCfg, lhs->dhcp, rhs->dhcp, 0, key, out);
+    descend_each(changed_or_all, getdiff_GPonOltGeneralL3DHCPCfg, lhs->dhcp, rhs->dhcp, of_object, key, out);
     descend(changed_or_all, getdiff_GPonOltGeneralL3PPPoECfg, lhs->pppoe, rhs->pppoe, key, out);
     return false;
 }

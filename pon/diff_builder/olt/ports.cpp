@@ -7,7 +7,7 @@ bool getdiff_GPonOltCfg(GPonOltCfg* lhs, GPonOltCfg* rhs, int* key, List<char>& 
     if (nothing_to_say(lhs, rhs))
         return false;
     descend(changed_or_all, getdiff_GPonOltGeneralCfg, lhs->general, rhs->general, key, out);
-    walk(changed_or_all, getdiff_GPonOltChannelCfg, lhs->channel, rhs->channel, 0, key, out);
+    descend_each(changed_or_all, getdiff_GPonOltChannelCfg, lhs->channel, rhs->channel, of_object, key, out);
     return false;
 }
 

@@ -23,7 +23,7 @@ void emit_service_profiles(const GPonOntCfg* lhs, const GPonOntCfg* rhs, int* ke
 void diff_services(GPonOntCfg& lhs, GPonOntCfg& rhs, int* key, List<char>& out)
 {
     for (int service = 0; service < GCFG_SERVICES; ++service) {
-        key[1] = service;
+        key[of_element] = service;
         descend(changed_or_all, getdiff_GPonOntCustomCrossConnect, lhs.custom_cross_connect[service],
                 rhs.custom_cross_connect[service], key, out);
         descend(changed_or_all, getdiff_GPonOntSelectiveTunnel, lhs.tunnel[service], rhs.tunnel[service], key, out);
@@ -60,7 +60,7 @@ void emit_settings(GPonOntCfg* lhs, GPonOntCfg* rhs, int* key, List<char>& out)
     emit_changed(profiles_and_modes, changed_or_all, lhs, rhs, where);
     descend(changed_or_all, getdiff_GPonOntVoice, lhs->voice, rhs->voice, key, out);
     diff_services(*lhs, *rhs, key, out);
-    walk(changed_or_all, getdiff_GPonOntPort, lhs->port, rhs->port, 1, key, out);
+    descend_each(changed_or_all, getdiff_GPonOntPort, lhs->port, rhs->port, of_element, key, out);
 }
 
 const char* power_priority_word(int value)
@@ -87,7 +87,8 @@ bool getdiff_GPonOntCfg(GPonOntCfg* lhs, GPonOntCfg* rhs, int* key, List<char>& 
     if (lhs->exist != rhs->exist) {
         if (rhs->exist == 0) {
             if (navigate({View::configure, key, out}))
-                append(out, "no interface ont %d/%d", key[0] / GCFG_ONTS_PER_PORT, key[0] % GCFG_ONTS_PER_PORT);
+                append(out, "no interface ont %d/%d", key[of_object] / GCFG_ONTS_PER_PORT,
+                       key[of_object] % GCFG_ONTS_PER_PORT);
             return false;
         }
         navigate({View::ont, key, out}); // creates it

@@ -55,6 +55,6 @@ bool getdiff_GPonOntSelectiveTunnel(GPonOntSelectiveTunnel* /*lhs*/, GPonOntSele
     sort_vids(*rhs);
     Text list;
     append_ranges(*rhs, list);
-    emit({View::ont, key, out}, "service $ID1 selective-tunnel uvid %s", Value::text(list.data(), list.size()));
+    emit({View::ont, key, out}, "service $ID1 selective-tunnel uvid %s", Value::of_text(list.data(), list.size()));
     return false;
 }

@@ -27,7 +27,7 @@ void diff_port(const Port& lhs, const Port& rhs, int port, const Where& ont)
     emit_changed(identity, changed_or_all, &lhs, &rhs, where);
     // The realm counts as changed when it differs from the old password, whatever it was before.
     if (wanted(changed_or_all, lhs.auth_passwd, rhs.auth_realm))
-        emit(where, "voice port %d authentication realm \"%s\"", text(rhs.auth_realm));
+        emit(where, "voice port %d authentication realm \"%s\"", text_of(rhs.auth_realm));
     emit_changed(validation_and_line, changed_or_all, &lhs, &rhs, where);
 }
 

@@ -52,7 +52,7 @@ bool getdiff_GPonProfileOltAddressTable(GPonProfileOltAddressTable* lhs, GPonPro
         return false;
     if (rhs->exist == 0) {
         if (navigate({View::configure, key, out}))
-            append(out, "no profile address-table %s", text(lhs->name));
+            append(out, "no profile address-table %s", text_of(lhs->name));
         return false;
     }
     const Where where{View::address_table, key, out};
@@ -60,6 +60,7 @@ bool getdiff_GPonProfileOltAddressTable(GPonProfileOltAddressTable* lhs, GPonPro
     emit_profile_name(changed_or_all, lhs, rhs, where);
     emit_profile_description(lhs, rhs, where);
     descend(changed_or_all, getdiff_GAddressTableConfig, lhs->table_config, rhs->table_config, key, out);
-    walk(changed_or_all, getdiff_GSvlanAddressTableConfig, lhs->svlan_config, rhs->svlan_config, 1, key, out);
+    descend_each(changed_or_all, getdiff_GSvlanAddressTableConfig, lhs->svlan_config, rhs->svlan_config, of_element,
+                 key, out);
     return false;
 }

@@ -12,7 +12,7 @@ bool getdiff_GVlanGeneralCfg(GVlanGeneralCfg* lhs, GVlanGeneralCfg* rhs, int* ke
     };
     if (nothing_to_say(lhs, rhs))
         return false;
-    const Value direction = key[1] != 0 ? "downlink" : "uplink";
+    const Value direction = key[of_element] != 0 ? "downlink" : "uplink";
     emit_changed(commands, changed_or_all, lhs, rhs, {View::vlan, key, out, &direction});
     return false;
 }
@@ -24,13 +24,14 @@ bool getdiff_GPonProfileOltVlan(GPonProfileOltVlan* lhs, GPonProfileOltVlan* rhs
         return false;
     if (rhs->exist == 0) {
         if (navigate({View::configure, key, out}))
-            append(out, "no profile vlan %s", text(lhs->name));
+            append(out, "no profile vlan %s", text_of(lhs->name));
         return false;
     }
     const Where where{View::vlan, key, out};
     enter_new_profile(lhs, rhs, where);
     emit_profile_name(changed_only, lhs, rhs, where);
     emit_profile_description(lhs, rhs, where);
-    walk(changed_or_all, getdiff_GVlanGeneralCfg, lhs->config_general, rhs->config_general, 1, key, out);
+    descend_each(changed_or_all, getdiff_GVlanGeneralCfg, lhs->config_general, rhs->config_general, of_element, key,
+                 out);
     return false;
 }

@@ -44,12 +44,12 @@ void emit_settings(const Settings* lhs, const Settings* rhs, int* key, List<char
 
 Value group(const std::uint8_t (&address)[4])
 {
-    return ipv4(address);
+    return ipv4_of(address);
 }
 
 Value group(const std::uint8_t (&address)[16])
 {
-    return ipv6(address);
+    return ipv6_of(address);
 }
 
 /// The VLAN and the groups of one entry. A dump writes what has not changed in its "no" form.
@@ -78,8 +78,8 @@ bool getdiff_GPonIgmpSettings(GPonIgmpSettings* lhs, GPonIgmpSettings* rhs, int*
     if (nothing_to_say(lhs, rhs))
         return false;
     emit_settings(lhs, rhs, key, out);
-    walk(changed_or_all, getdiff_GPonMulticastDynamicEntry, lhs->multicast_dynamic_entry, rhs->multicast_dynamic_entry,
-         1, key, out);
+    descend_each(changed_or_all, getdiff_GPonMulticastDynamicEntry, lhs->multicast_dynamic_entry,
+                 rhs->multicast_dynamic_entry, of_element, key, out);
     return false;
 }
 
@@ -88,8 +88,8 @@ bool getdiff_GPonMldSettings(GPonMldSettings* lhs, GPonMldSettings* rhs, int* ke
     if (nothing_to_say(lhs, rhs))
         return false;
     emit_settings(lhs, rhs, key, out);
-    walk(changed_or_all, getdiff_GPonMulticastDynamicEntryV6, lhs->multicast_dynamic_entry_mld,
-         rhs->multicast_dynamic_entry_mld, 1, key, out);
+    descend_each(changed_or_all, getdiff_GPonMulticastDynamicEntryV6, lhs->multicast_dynamic_entry_mld,
+                 rhs->multicast_dynamic_entry_mld, of_element, key, out);
     return false;
 }
 

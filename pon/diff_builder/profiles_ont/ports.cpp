@@ -33,7 +33,7 @@ bool getdiff_GPonProfileOntPorts(GPonProfileOntPorts* lhs, GPonProfileOntPorts* 
     descend(changed_or_all, getdiff_GPonIgmpSettings, lhs->igmp_settings, rhs->igmp_settings, key, out);
     descend(changed_or_all, getdiff_GPonMldSettings, lhs->mld_settings, rhs->mld_settings, key, out);
     descend(changed_or_all, getdiff_GPonVeipPort, lhs->veip, rhs->veip, key, out);
-    walk(changed_or_all, getdiff_GPonUniPort, lhs->port, rhs->port, 1, key, out);
+    descend_each(changed_or_all, getdiff_GPonUniPort, lhs->port, rhs->port, of_element, key, out);
     return false;
 }
 

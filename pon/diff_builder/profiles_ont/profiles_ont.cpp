@@ -7,12 +7,14 @@ bool getdiff_GPonProfilesOnt(GPonProfilesOnt* lhs, GPonProfilesOnt* rhs, int* ke
 {
     if (nothing_to_say(lhs, rhs))
         return false;
-    walk(changed_or_all, getdiff_GPonProfileOntShaping, lhs->shaping, rhs->shaping, 0, key, out);
-    walk(changed_or_all, getdiff_GPonProfileOntCrossConnect, lhs->cross_connect, rhs->cross_connect, 0, key, out);
-    walk(changed_or_all, getdiff_GPonProfileOntAlloc, lhs->alloc, rhs->alloc, 0, key, out);
-    walk(changed_or_all, getdiff_GPonProfileOntPorts, lhs->ports, rhs->ports, 0, key, out);
-    walk(changed_or_all, getdiff_GPonProfileOntVoice, lhs->voice, rhs->voice, 0, key, out);
-    walk(changed_or_all, getdiff_GPonProfileOntManagement, lhs->management, rhs->management, 0, key, out);
-    walk(changed_or_all, getdiff_GPonTemplateOnt, lhs->template_ont, rhs->template_ont, 0, key, out);
+    descend_each(changed_or_all, getdiff_GPonProfileOntShaping, lhs->shaping, rhs->shaping, of_object, key, out);
+    descend_each(changed_or_all, getdiff_GPonProfileOntCrossConnect, lhs->cross_connect, rhs->cross_connect, of_object,
+                 key, out);
+    descend_each(changed_or_all, getdiff_GPonProfileOntAlloc, lhs->alloc, rhs->alloc, of_object, key, out);
+    descend_each(changed_or_all, getdiff_GPonProfileOntPorts, lhs->ports, rhs->ports, of_object, key, out);
+    descend_each(changed_or_all, getdiff_GPonProfileOntVoice, lhs->voice, rhs->voice, of_object, key, out);
+    descend_each(changed_or_all, getdiff_GPonProfileOntManagement, lhs->management, rhs->management, of_object, key,
+                 out);
+    descend_each(changed_or_all, getdiff_GPonTemplateOnt, lhs->template_ont, rhs->template_ont, of_object, key, out);
     return false;
 }

@@ -4,11 +4,11 @@ using namespace pondiff;
 
 namespace {
 
-void walk_shapers(const char* traffic_class, GPonOntShapingUpstreamParams (&lhs)[GCFG_SHAPERS],
+void diff_shapers(const char* traffic_class, GPonOntShapingUpstreamParams (&lhs)[GCFG_SHAPERS],
                   GPonOntShapingUpstreamParams (&rhs)[GCFG_SHAPERS], int* key, List<char>& out)
 {
     for (int i = 0; i < GCFG_SHAPERS; ++i) {
-        key[1] = i;
+        key[of_element] = i;
         getdiff_GPonOntShapingUpstreamParams(traffic_class, &lhs[i], &rhs[i], key, out);
     }
 }
@@ -58,7 +58,8 @@ bool getdiff_GPonOntShapingDownstream(GPonOntShapingDownstream* lhs, GPonOntShap
     if (nothing_to_say(lhs, rhs))
         return false;
     emit_changed(one_policer, changed_or_all, lhs, rhs, {View::shaping, key, out});
-    walk(changed_or_all, getdiff_GPonOntShapingDownstreamParams, lhs->policer, rhs->policer, 1, key, out);
+    descend_each(changed_or_all, getdiff_GPonOntShapingDownstreamParams, lhs->policer, rhs->policer, of_element, key,
+                 out);
     return false;
 }
 
@@ -80,10 +81,10 @@ bool getdiff_GPonOntShapingUpstream(GPonOntShapingUpstream* lhs, GPonOntShapingU
 {
     if (nothing_to_say(lhs, rhs))
         return false;
-    walk_shapers("", lhs->shaper, rhs->shaper, key, out);
-    walk_shapers("unicast", lhs->shaper_unicast, rhs->shaper_unicast, key, out);
-    walk_shapers("multicast", lhs->shaper_multicast, rhs->shaper_multicast, key, out);
-    walk_shapers("broadcast", lhs->shaper_broadcast, rhs->shaper_broadcast, key, out);
+    diff_shapers("", lhs->shaper, rhs->shaper, key, out);
+    diff_shapers("unicast", lhs->shaper_unicast, rhs->shaper_unicast, key, out);
+    diff_shapers("multicast", lhs->shaper_multicast, rhs->shaper_multicast, key, out);
+    diff_shapers("broadcast", lhs->shaper_broadcast, rhs->shaper_broadcast, key, out);
     descend(changed_or_all, getdiff_GPonOntStormControl, lhs->storm_control, rhs->storm_control, key, out);
     return false;
 }

@@ -21,7 +21,7 @@ void diff_allow_entry(const char* service, const GSystemServiceAllow* lhs, const
 void pondiff::diff_allow_list(const char* service, AllowList& lhs, AllowList& rhs, int* key, List<char>& out)
 {
     for (int i = 0; i < GCFG_ALLOW_ENTRIES; ++i) {
-        key[0] = i;
+        key[of_object] = i;
         diff_allow_entry(service, &lhs[i], &rhs[i], key, out);
     }
 }

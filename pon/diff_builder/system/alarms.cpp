@@ -8,7 +8,7 @@ bool getdiff_GSystemAlarmCfg(GSystemAlarmCfg* lhs, GSystemAlarmCfg* rhs, int* ke
 {
     if (nothing_to_say(lhs, rhs))
         return false;
-    walk(changed_or_common, getdiff_GSystemAlarmTypeCfg, lhs->type, rhs->type, 0, key, out);
+    descend_each(changed_or_common, getdiff_GSystemAlarmTypeCfg, lhs->type, rhs->type, of_object, key, out);
     descend(changed_or_common, getdiff_GSystemAlarmSystemCfg, lhs->cfg, rhs->cfg, key, out);
     return false;
 }

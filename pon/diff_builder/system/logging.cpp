@@ -34,7 +34,7 @@ bool getdiff_GSystemLogCfg(GSystemLogCfg* lhs, GSystemLogCfg* rhs, int* key, Lis
 {
     if (nothing_to_say(lhs, rhs))
         return false;
-    walk(changed_or_all, getdiff_GSubmoduleLogCfg, lhs->submodule, rhs->submodule, 0, key, out);
+    descend_each(changed_or_all, getdiff_GSubmoduleLogCfg, lhs->submodule, rhs->submodule, of_object, key, out);
     return false;
 }
 
@@ -45,7 +45,7 @@ bool getdiff_GSubmoduleLogCfg(GSubmoduleLogCfg* lhs, GSubmoduleLogCfg* rhs, int*
         word(FIELD(GSubmoduleLogCfg, level), getCliSubmoduleLevel, "logging module %s loglevel \"%s\"");
     if (nothing_to_say(lhs, rhs))
         return false;
-    const Value submodule = getCliSubmoduleType(key[0]);
+    const Value submodule = getCliSubmoduleType(key[of_object]);
     emit_changed(level, changed_or_all, lhs, rhs, {View::configure, key, out, &submodule});
     return false;
 }

@@ -7,7 +7,7 @@ bool getdiff_GSystemRoutingCfg(GSystemRoutingCfg* lhs, GSystemRoutingCfg* rhs, i
 {
     if (nothing_to_say(lhs, rhs))
         return false;
-    walk(changed_only, getdiff_GSystemRouteCfg, lhs->route, rhs->route, 0, key, out);
+    descend_each(changed_only, getdiff_GSystemRouteCfg, lhs->route, rhs->route, of_object, key, out);
     return false;
 }
 
@@ -16,6 +16,7 @@ bool getdiff_GSystemRouteCfg(GSystemRouteCfg* lhs, GSystemRouteCfg* rhs, int* ke
 {
     if (nothing_to_say(lhs, rhs))
         return false;
-    emit({View::configure, key, out}, "ip route prefix $ID0 mask \"%s\" gateway \"%s\"", rhs->mask, ipv4(rhs->gateway));
+    emit({View::configure, key, out}, "ip route prefix $ID0 mask \"%s\" gateway \"%s\"", rhs->mask,
+         ipv4_of(rhs->gateway));
     return false;
 }

@@ -22,8 +22,8 @@ bool getdiff_GSystemSnmpCfg(GSystemSnmpCfg* lhs, GSystemSnmpCfg* rhs, int* key, 
         return false;
     emit_changed(commands, changed_or_all, lhs, rhs, {View::configure, key, out});
     diff_allow_list("ip snmp", lhs->allow, rhs->allow, key, out);
-    walk(changed_or_all, getdiff_GSystemSnmpTrap, lhs->traps, rhs->traps, 0, key, out);
-    walk(changed_or_all, getdiff_GSystemSnmpAlias, lhs->alias, rhs->alias, 0, key, out);
+    descend_each(changed_or_all, getdiff_GSystemSnmpTrap, lhs->traps, rhs->traps, of_object, key, out);
+    descend_each(changed_or_all, getdiff_GSystemSnmpAlias, lhs->alias, rhs->alias, of_object, key, out);
     return false;
 }
 
@@ -32,7 +32,7 @@ bool getdiff_GSystemSnmpTrap(GSystemSnmpTrap* lhs, GSystemSnmpTrap* rhs, int* ke
 {
     if (!lhs || !rhs || !wanted(changed_or_all, lhs->ipaddr, rhs->ipaddr))
         return false;
-    emit({View::configure, key, out}, "ip snmp traps %s type %s", ipv4(rhs->ipaddr),
+    emit({View::configure, key, out}, "ip snmp traps %s type %s", ipv4_of(rhs->ipaddr),
          enum_word("GSnmpTrapType_enum", rhs->type));
     return false;
 }

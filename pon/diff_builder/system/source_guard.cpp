@@ -12,8 +12,8 @@ bool getdiff_GSystemSourceGuardCfg(GSystemSourceGuardCfg* lhs, GSystemSourceGuar
     if (nothing_to_say(lhs, rhs))
         return false;
     emit_changed(commands, changed_or_all, lhs, rhs, {View::configure, key, out});
-    walk(changed_only, getdiff_GSystemSourceGuardBindCfg, lhs->bind, rhs->bind, 0, key, out);
-    walk(changed_only, getdiff_GSystemSourceGuardCfgVlanAllowed, lhs->vid, rhs->vid, 0, key, out);
+    descend_each(changed_only, getdiff_GSystemSourceGuardBindCfg, lhs->bind, rhs->bind, of_object, key, out);
+    descend_each(changed_only, getdiff_GSystemSourceGuardCfgVlanAllowed, lhs->vid, rhs->vid, of_object, key, out);
     return false;
 }
 
@@ -24,7 +24,7 @@ bool getdiff_GSystemSourceGuardBindCfg(GSystemSourceGuardBindCfg* lhs, GSystemSo
     if (nothing_to_say(lhs, rhs))
         return false;
     emit({View::configure, key, out}, "ip source-guard bind ip $ID0 mac \"%s\" interface-ont %d/%d service %d",
-         mac(rhs->mac), rhs->channel_index, static_cast<int>(rhs->ont_id), rhs->service_id);
+         mac_of(rhs->mac), rhs->channel_index, static_cast<int>(rhs->ont_id), rhs->service_id);
     return false;
 }
 

@@ -8,13 +8,13 @@ bool getdiff_GSystemCfg(GSystemCfg* lhs, GSystemCfg* rhs, int* key, List<char>& 
     if (nothing_to_say(lhs, rhs))
         return false;
     descend(changed_only, getdiff_GSystemNetworkCfg, lhs->network, rhs->network, key, out);
-    walk(changed_only, getdiff_GSystemUser, lhs->user, rhs->user, 0, key, out);
+    descend_each(changed_only, getdiff_GSystemUser, lhs->user, rhs->user, of_object, key, out);
     descend(changed_only, getdiff_GSystemServices, lhs->services, rhs->services, key, out);
     descend(changed_only, getdiff_GSystemCommonSettings, lhs->settings, rhs->settings, key, out);
     return false;
 }
 
-/// Routes are no part of this walk; the auto-configuration server, the authentication and the fan have no commands.
+/// Routes are not shown here; the auto-configuration server, the authentication and the fan have no commands.
 bool getdiff_GSystemServices(GSystemServices* lhs, GSystemServices* rhs, int* key, List<char>& out)
 {
     if (nothing_to_say(lhs, rhs))

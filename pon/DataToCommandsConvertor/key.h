@@ -1,0 +1,15 @@
+#ifndef PON_DATATOCOMMANDSCONVERTOR_KEY_H
+#define PON_DATATOCOMMANDSCONVERTOR_KEY_H
+
+namespace pondiff {
+
+/// What the slots of a key identify. A command shows them as $ID0 and $ID1; those behind them are the caller's.
+enum KeySlot : int {
+    of_object,  ///< the object that the view edits, or the entry that the command names
+    of_element, ///< a part of that object: its service, port, entry or shaper
+};
+constexpr int key_slots = 10;
+
+} // namespace pondiff
+
+#endif
