@@ -61,10 +61,7 @@ void Pair::patch(const std::vector<Patch>& patches)
     std::set<std::size_t> tunnels; // of the new record, those of ONTs that may be shown
     for (const Patch& patch : patches) {
         const std::size_t offset = patch.place.offset;
-        if (patch.side != Patch::Side::cfg)
-            std::memcpy(records_[old_record].bytes() + offset, patch.bytes.data(), patch.bytes.size());
-        if (patch.side != Patch::Side::orig)
-            std::memcpy(records_[new_record].bytes() + offset, patch.bytes.data(), patch.bytes.size());
+        apply(patch, *orig(), *cfg());
         if (offset < first_ont || offset >= behind_onts)
             continue;
         const std::size_t ont = first_ont + (offset - first_ont) / sizeof(GPonOntCfg) * sizeof(GPonOntCfg);

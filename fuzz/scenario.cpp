@@ -3,9 +3,11 @@
 #include "fuzz/checks.h"
 #include "fuzz/operations.h"
 #include "tool/describe/records.h"
+#include "tool/json/store.h"
 
 #include <algorithm>
 #include <charconv>
+#include <cstring>
 #include <limits>
 #include <optional>
 
@@ -78,18 +80,22 @@ std::string_view without_zeros_behind(std::string_view bytes)
 
 std::optional<std::string> bytes_of(const tool::Field& field, std::string_view value)
 {
-    if (!tool::is_number(field.form)) {
-        std::optional<std::string> bytes = unquoted(value);
-        if (bytes)
-            bytes->resize(field.width);
-        return bytes;
-    }
-    const auto number = number_of<std::int64_t>(value);
-    if (!number)
+    if (field.form == tool::Form::record) {
         return std::nullopt;
+    }
     std::string bytes(field.width, '\0');
-    tool::set_number(field, reinterpret_cast<unsigned char*>(bytes.data()), *number);
-    return bytes;
+    auto* const at = reinterpret_cast<unsigned char*>(bytes.data());
+    if (tool::is_number(field.form)) {
+        if (const auto number = number_of<std::int64_t>(value)) {
+            tool::set_number(field, at, *number);
+            return bytes;
+        }
+    } else if (std::optional<std::string> quoted = unquoted(value)) {
+        quoted->resize(field.width);
+        return quoted;
+    }
+    const std::string mistake = tool::store(field, at, {tool::Value::Type::text, 0, value});
+    return mistake.empty() ? std::optional<std::string>(bytes) : std::nullopt;
 }
 
 constexpr const char* side_words[] = {"orig", "cfg", "both"};
@@ -133,7 +139,16 @@ std::optional<Call> parse_call(std::string_view rest)
 /// @return false when the line makes no sense
 bool parse_line(std::string_view line, Scenario& scenario)
 {
+    if (line.empty() || line.front() == '#') {
+        return true;
+    }
     const std::string_view verb = take_until(line, ' ');
+    if (verb == "base") {
+        while (!line.empty()) {
+            scenario.base.emplace_back(take_until(line, ' '));
+        }
+        return scenario.base == std::vector<std::string>{"blank"} || scenario.base.size() == 2;
+    }
     if (verb == "switches") {
         const auto all = number_of<int>(take_until(line, ' '));
         const auto common = number_of<int>(line);
@@ -183,6 +198,16 @@ void print_call(const Call& call, std::string& out)
 
 } // namespace
 
+void apply(const Patch& patch, GCfg& orig, GCfg& cfg)
+{
+    if (patch.side != Patch::Side::cfg) {
+        std::memcpy(reinterpret_cast<char*>(&orig) + patch.place.offset, patch.bytes.data(), patch.bytes.size());
+    }
+    if (patch.side != Patch::Side::orig) {
+        std::memcpy(reinterpret_cast<char*>(&cfg) + patch.place.offset, patch.bytes.data(), patch.bytes.size());
+    }
+}
+
 Place find_place(std::string_view path)
 {
     Place place;
@@ -206,14 +231,28 @@ Place find_place(std::string_view path)
     return path.empty() ? place : Place{};
 }
 
-Scenario parse_scenario(std::string_view text)
+Scenario parse_scenario(std::string_view text, std::vector<std::string>& senseless)
 {
     Scenario scenario;
     while (!text.empty()) {
         const std::string_view line = take_until(text, '\n');
-        if (!parse_line(line, scenario))
-            check(!every_check, "no field or operation that there is: " + std::string(line));
+        if (!parse_line(line, scenario)) {
+            senseless.emplace_back(line);
+        }
     }
+    return scenario;
+}
+
+Scenario parse_scenario(std::string_view text)
+{
+    std::vector<std::string> senseless;
+    Scenario scenario = parse_scenario(text, senseless);
+    if (!scenario.base.empty()) {
+        senseless.push_back("base " + scenario.base.front());
+        scenario.base.clear();
+    }
+    check(!every_check || senseless.empty(),
+          senseless.empty() ? "" : "a line that makes no sense: " + senseless.front());
     return scenario;
 }
 

@@ -9,17 +9,6 @@ TEST(FullDiff, EqualConfigurationsGiveAnEmptyText)
     EXPECT_EQ(session.full_diff(), "");
 }
 
-TEST(FullDiff, ChangedHostnameAlone)
-{
-    Session session;
-    put(session.cfg->system.network.hostname, "olt-17");
-    session.open();
-    EXPECT_EQ(session.full_diff(), "configure terminal\n"
-                                   "hostname \"olt-17\"\n"
-                                   "exit\n"
-                                   "commit\n");
-}
-
 TEST(FullDiff, EndsAtTheTopLevelSoThatTheNextOneStartsThere)
 {
     Session session;
@@ -30,21 +19,6 @@ TEST(FullDiff, EndsAtTheTopLevelSoThatTheNextOneStartsThere)
     EXPECT_STREQ(current_view.name, "root");
 }
 
-TEST(FullDiff, SystemPartComesFirst)
-{
-    Session session;
-    session.cfg->pon.network.mac_age_time = 300;
-    session.cfg->system.settings.ont_sn_format = 1;
-    put(session.cfg->system.network.hostname, "olt-17");
-    session.open();
-    EXPECT_EQ(session.full_diff(), "configure terminal\n"
-                                   "hostname \"olt-17\"\n"
-                                   "cli ont-sn-format \"dense\"\n"
-                                   "gpon network mac-age-time \"300\"\n"
-                                   "exit\n"
-                                   "commit\n");
-}
-
 TEST(FullDiff, ChangeWithoutACommandGivesAnEmptyText)
 {
     Session session;
@@ -52,15 +26,6 @@ TEST(FullDiff, ChangeWithoutACommandGivesAnEmptyText)
     session.cfg->system.network.revision = 7;
     session.open();
     EXPECT_EQ(session.full_diff(), "");
-}
-
-TEST(FullDiff, RemovedTerminalVlanAloneIsNotPrecededByNavigation)
-{
-    Session session;
-    session.orig->pon.network.terminal_vlan[4].exists = 1;
-    put(session.orig->pon.network.terminal_vlan[4].name, "video");
-    session.open();
-    EXPECT_EQ(session.full_diff(), "no gpon network terminal-vlan \"video\"\ncommit\n");
 }
 
 TEST(FullDiff, ValueWithALineFeedAddsItsLineAndNoMore)
@@ -146,27 +111,6 @@ TEST(FullDiff, OutsideASessionTheScriptStartsAtTheTopLevel)
     EXPECT_EQ(session.full_diff(), "configure terminal\nhostname \"olt-17\"\nexit\ncommit\n");
 }
 
-TEST(FullDiff, CommonRecordsInOrder)
-{
-    Session session;
-    session.cfg->system.services.source_guard.vid[4094].allowed = 1;
-    session.cfg->pon.network.mac_age_time = 300;
-    session.cfg->system.settings.ont_sn_format = 2;
-    session.cfg->system.services.alarm.type[7].type = 3;
-    session.cfg->system.services.alarm.type[7].severity = 1;
-    session.cfg->system.services.cli.session_timeout = 600;
-    session.cfg->system.services.ntp.enabled = 1;
-    session.open(0, 1);
-    EXPECT_EQ(session.full_diff(), "configure terminal\n"
-                                   "cli session-timeout \"600\"\n"
-                                   "alarm login severity \"critical\"\n"
-                                   "cli ont-sn-format \"dashed\"\n"
-                                   "gpon network mac-age-time \"300\"\n"
-                                   "ip source-guard ignore-vlan 4094\n"
-                                   "exit\n"
-                                   "commit\n");
-}
-
 TEST(FullDiff, CommonRecordsAreForcedByPrintAll)
 {
     Session session;
@@ -182,102 +126,6 @@ TEST(FullDiff, CommonRecordsAreForcedByPrintAll)
               std::string::npos);
     ASSERT_GE(text.size(), back.size());
     EXPECT_EQ(text.substr(text.size() - back.size()), back);
-}
-
-TEST(FullDiff, OltProfilesStandBetweenTheNetworkAndTheOntProfiles)
-{
-    Session session;
-    session.cfg->pon.profiles_ont.management[0].exist = 1;
-    put(session.cfg->pon.profiles_ont.management[0].name, "m");
-    session.cfg->pon.profiles_olt.vlan[4].exist = 1;
-    put(session.cfg->pon.profiles_olt.vlan[4].name, "office");
-    session.orig->pon.profiles_olt.address_table[31].exist = 1;
-    put(session.orig->pon.profiles_olt.address_table[31].name, "old");
-    session.cfg->pon.network.mac_age_time = 300;
-    session.open();
-    EXPECT_EQ(session.full_diff(), "configure terminal\n"
-                                   "gpon network mac-age-time \"300\"\n"
-                                   "profile vlan \"office\"\n"
-                                   "exit\n"
-                                   "no profile address-table old\n"
-                                   "profile management \"m\"\n"
-                                   "exit\n"
-                                   "exit\n"
-                                   "commit\n");
-}
-
-TEST(FullDiff, CommonRecordsIncludeTheOltSettingsButNotItsPorts)
-{
-    Session session;
-    session.cfg->pon.network.mac_age_time = 300;
-    session.cfg->pon.olt.general.ont_block_time = 60;
-    session.cfg->pon.olt.general.encryption.enable = 1;
-    session.cfg->pon.olt.channel[3].fec_down = 1;
-    session.cfg->system.services.source_guard.vid[7].allowed = 1;
-    session.open(0, 1);
-    EXPECT_EQ(session.full_diff(), "configure terminal\n"
-                                   "gpon network mac-age-time \"300\"\n"
-                                   "ont block-time \"60\"\n"
-                                   "gpon olt encryption\n"
-                                   "ip source-guard ignore-vlan    7\n"
-                                   "exit\n"
-                                   "commit\n");
-}
-
-TEST(FullDiff, OltStandsBetweenTheProfilesAndTheOnts)
-{
-    Session session;
-    session.cfg->pon.profiles_ont.management[0].exist = 1;
-    put(session.cfg->pon.profiles_ont.management[0].name, "m");
-    session.cfg->pon.olt.general.ont_block_time = 60;
-    session.cfg->pon.olt.channel[3].fec_down = 1;
-    session.cfg->pon.ont[5].exist = 1;
-    session.cfg->pon.ont[5].fec_up = 1;
-    session.open();
-    EXPECT_EQ(session.full_diff(), "configure terminal\n"
-                                   "profile management \"m\"\n"
-                                   "exit\n"
-                                   "ont block-time \"60\"\n"
-                                   "interface gpon-port    3\n"
-                                   "fec\n"
-                                   "exit\n"
-                                   "interface ont 0/5\n"
-                                   "fec\n"
-                                   "exit\n"
-                                   "exit\n"
-                                   "commit\n");
-}
-
-TEST(FullDiff, OntsAreCreatedChangedAndDeletedInIndexOrder)
-{
-    Session session;
-    for (const int changed : {63, 70, 511})
-        session.orig->pon.ont[changed].exist = session.cfg->pon.ont[changed].exist = 1;
-    for (const int deleted : {64, 512})
-        session.orig->pon.ont[deleted].exist = 1;
-    for (const int created : {0, 531})
-        session.cfg->pon.ont[created].exist = 1;
-    put(session.orig->pon.ont[64].description, "gone");
-    put(session.cfg->pon.ont[63].description, "kiosk");
-    session.cfg->pon.ont[511].port[2].shutdown = 1;
-    put(session.cfg->pon.ont[531].description, "last");
-    session.open();
-    EXPECT_EQ(session.full_diff(), "configure terminal\n"
-                                   "interface ont 0/0\n"
-                                   "exit\n"
-                                   "interface ont 0/63\n"
-                                   "description \"kiosk\"\n"
-                                   "exit\n"
-                                   "no interface ont 1/0\n"
-                                   "interface ont 7/63\n"
-                                   "port    2 shutdown\n"
-                                   "exit\n"
-                                   "no interface ont 8/0\n"
-                                   "interface ont 8/19\n"
-                                   "description \"last\"\n"
-                                   "exit\n"
-                                   "exit\n"
-                                   "commit\n");
 }
 
 TEST(FullDiff, PrintAllNeverShowsAnEqualOnt)

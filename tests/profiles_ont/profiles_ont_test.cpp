@@ -117,25 +117,4 @@ TEST_F(OntProfiles, DumpHandsEveryEqualProfileToItsDiff)
                        "ont-config version \"\" file \"\"\n");
 }
 
-TEST_F(OntProfiles, FullDiffShowsThemBehindTheNetwork)
-{
-    session.cfg->pon.network.mac_age_time = 300;
-    name(before.alloc[2], "gold");
-    after = before;
-    after.alloc[2].allocate_new_alloc = 1;
-    name(after.template_ont[0], "kiosk");
-    after.template_ont[0].profile_ont_alloc[0] = 2;
-    session.open();
-    EXPECT_EQ(session.full_diff(), "configure terminal\n"
-                                   "gpon network mac-age-time \"300\"\n"
-                                   "profile dba \"gold\"\n"
-                                   "allocation-scheme allocate-new-t-cont\n"
-                                   "exit\n"
-                                   "template \"kiosk\"\n"
-                                   "service 0 profile dba \"gold\"\n"
-                                   "exit\n"
-                                   "exit\n"
-                                   "commit\n");
-}
-
 } // namespace
