@@ -8,6 +8,7 @@ enum class ExitStatus {
     success = 0,        ///< of a diff: there is nothing to do
     script_written = 1, ///< of a diff: the configurations differ
     found = 1,          ///< of a check: there are findings
+    refused = 1,        ///< of an application: lines were refused
     error = 2,          ///< what was asked could not be done
 };
 

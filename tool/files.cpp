@@ -1,7 +1,5 @@
 #include "tool/files.h"
 
-#include "tool/json/json.h"
-
 #include <cerrno>
 #include <climits>
 #include <csignal>
@@ -115,31 +113,6 @@ std::string read_all(int descriptor, const std::string& name)
     return content;
 }
 
-std::string read_content(const std::string& file, const std::string& name)
-{
-    if (file == standard_stream)
-        return read_all(STDIN_FILENO, name);
-    const Descriptor opened{open(file.c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY)};
-    if (opened.number() < 0)
-        throw FileError(name, errno);
-    return read_all(opened.number(), name);
-}
-
-bool begins_like_json(std::string_view content)
-{
-    constexpr std::string_view byte_order_mark = "\xEF\xBB\xBF";
-    if (content.substr(0, byte_order_mark.size()) == byte_order_mark)
-        content.remove_prefix(byte_order_mark.size());
-    const std::size_t first = content.find_first_not_of(" \t\r\n");
-    return first != std::string_view::npos && content[first] == '{';
-}
-
-bool is_json(std::string_view content)
-{
-    return begins_like_json(content) &&
-           (content.size() != sizeof(GCfg) || content.find('\0') == std::string_view::npos);
-}
-
 bool write_all(int descriptor, std::string_view content)
 {
     while (!content.empty()) {
@@ -219,19 +192,15 @@ std::string name_of_input(const std::string& file)
     return name_in_messages(file, "standard input");
 }
 
-std::unique_ptr<GCfg> read_configuration(const std::string& file)
+std::string read_file(const std::string& file)
 {
     const std::string name = name_of_input(file);
-    const std::string content = read_content(file, name);
-    auto record = std::make_unique<GCfg>();
-    if (is_json(content))
-        read_json(content, name, *record);
-    else if (content.size() == sizeof(GCfg))
-        std::memcpy(record.get(), content.data(), sizeof(GCfg));
-    else
-        throw InputError(fmt::format("{}: size is {}, but a record has {} bytes and a JSON document begins with '{{'",
-                                     name, content.size(), sizeof(GCfg)));
-    return record;
+    if (file == standard_stream)
+        return read_all(STDIN_FILENO, name);
+    const Descriptor opened{open(file.c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY)};
+    if (opened.number() < 0)
+        throw FileError(name, errno);
+    return read_all(opened.number(), name);
 }
 
 void write_file(const std::string& file, std::string_view content)

@@ -1,10 +1,8 @@
 #ifndef TOOL_FILES_H
 #define TOOL_FILES_H
 
-#include "gcfg/gcfg.h"
 #include "tool/errors.h"
 
-#include <memory>
 #include <string>
 #include <string_view>
 
@@ -16,14 +14,9 @@ inline constexpr char standard_stream[] = "-";
 /// What messages call a file that is read.
 std::string name_of_input(const std::string& file);
 
-/// The configuration that a file holds, as a record or as a JSON document.
-///
-/// The content decides, never the name. What begins with '{', blanks aside, is a document; what has the record's exact
-/// size is a record. What meets both is a record when it holds a zero byte: no JSON text holds one, and no
-/// configuration is without.
-/// @throws FileError  when the file cannot be read
-/// @throws InputError when its content is neither, or a document with a mistake in it
-std::unique_ptr<GCfg> read_configuration(const std::string& file);
+/// All that a file holds.
+/// @throws FileError
+std::string read_file(const std::string& file);
 
 /// Makes `content` the whole content of a file, or fails and leaves the file as it was.
 ///

@@ -28,7 +28,7 @@ constexpr const Command* commands[] = {PONDIFF_COMMANDS(ADDRESS)};
 std::string details()
 {
     return fmt::format(R"(A configuration holds all settings of a device: its system settings and its PON.
-Every command reads it in either of two forms, which it knows by the content:
+Every command reads it in any of three forms, which it knows by the content:
 
   Record         The packed record that the device software keeps, exactly
                  {} bytes.
@@ -36,15 +36,17 @@ Every command reads it in either of two forms, which it knows by the content:
                  Arrays of records are objects keyed by index, and what is
                  absent is zero, so that this is a whole configuration:
                  {{"pon": {{"ont": {{"70": {{"exist": true}}}}}}}}
+  Text           The commands that set it, line by line, such as a device
+                 lists them. What no line says is unset.
 
 Where a file is named, - stands for standard input or output; a file of that
 name is ./-
 
 Exit status:
   0  success; of "pondiff diff": there is nothing to do; of "pondiff check":
-     nothing was found
+     nothing was found; of "pondiff apply": every line was taken
   1  of "pondiff diff": a script was written; of "pondiff check": something was
-     found
+     found; of "pondiff apply": lines were refused
   2  error; see standard error
 
 Examples:
@@ -52,6 +54,7 @@ Examples:
   pondiff check wanted.json
   pondiff show running.bin > running.json
   pondiff pack running.json -o running.bin
+  pondiff apply running.json change.cli > after.json
 
 "pondiff COMMAND --help" describes each command.)",
                        sizeof(GCfg));

@@ -138,7 +138,8 @@ TEST_F(Show, WrongSizeIsAnError)
     write("cfg.bin", "short");
     const Outcome outcome = run({"show", "cfg.bin", "-o", "cfg.json"});
     EXPECT_EQ(outcome.err,
-              "pondiff: cfg.bin: size is 5, but a record has 1821429 bytes and a JSON document begins with '{'\n");
+              "pondiff: cfg.bin: size is 5, but a record has 1821429 bytes and a JSON document begins with '{', and no line "
+              "is a command; the first is: short\n");
     EXPECT_EQ(outcome.status, 2);
     EXPECT_THAT(names(), ElementsAre("cfg.bin"));
 }
@@ -178,9 +179,9 @@ TEST_F(CommandLine, MistakesAreErrors)
          "pondiff: Could not convert: --common = 4294967296\nTry 'pondiff diff --help'.\n"},
         {{"diff", "a.json", "a.json", "-o"},
          "pondiff: --output: 1 required TEXT missing\nTry 'pondiff diff --help'.\n"},
-        {{"diff", "-", "-"}, "pondiff: only one of ORIG and CFG can be standard input\nTry 'pondiff diff --help'.\n"},
-        {{"show"}, "pondiff: RECORD is required\nTry 'pondiff show --help'.\n"},
-        {{"pack", "-o", "a.bin"}, "pondiff: JSON is required\nTry 'pondiff pack --help'.\n"},
+        {{"diff", "-", "-"}, "pondiff: only one of the files can be standard input\nTry 'pondiff diff --help'.\n"},
+        {{"show"}, "pondiff: FILE is required\nTry 'pondiff show --help'.\n"},
+        {{"pack", "-o", "a.bin"}, "pondiff: FILE is required\nTry 'pondiff pack --help'.\n"},
     };
     for (const auto& [arguments, message] : mistakes) {
         const Outcome outcome = run(arguments);

@@ -29,18 +29,21 @@ class Complete : public ProgramTest {
 
 constexpr char options_of_show[] = "-h\tPrint this help and exit\n"
                                    "--help\tPrint this help and exit\n"
-                                   "--full\tWrite the fields that are zero as well\n"
-                                   "-o\tWrite the document to FILE instead of standard output\n"
-                                   "--output\tWrite the document to FILE instead of standard output\n";
+                                   "--as\tForm to write: document, the default, text or record\n"
+                                   "--base\tTake what a text of commands cannot say from FILE, a record or "
+                                   "JSON document\n"
+                                   "--full\tWrite the fields that are zero as well, in a document\n"
+                                   "-o\tWrite to FILE instead of standard output\n"
+                                   "--output\tWrite to FILE instead of standard output\n";
 
 TEST_F(Complete, Commands)
 {
-    EXPECT_THAT(of({""}),
-                AllOf(HasSubstr("diff\tPrint the commands that turn one configuration into another\n"),
-                      HasSubstr("\nshow\tWrite a configuration as a JSON document\n"), Not(HasSubstr("complete"))));
+    EXPECT_THAT(of({""}), AllOf(HasSubstr("diff\tPrint the commands that turn one configuration into another\n"),
+                                HasSubstr("\nshow\tWrite a configuration as a document, text or record\n"),
+                                Not(HasSubstr("complete"))));
     EXPECT_EQ(of({}), of({""}));
-    expect({"sho"}, "show\tWrite a configuration as a JSON document\n");
-    expect({"show"}, "show\tWrite a configuration as a JSON document\n");
+    expect({"sho"}, "show\tWrite a configuration as a document, text or record\n");
+    expect({"show"}, "show\tWrite a configuration as a document, text or record\n");
     expect({"shower"}, "");
     expect({"complete"}, "");
 }
@@ -49,8 +52,8 @@ TEST_F(Complete, Options)
 {
     expect({"show", "-"}, options_of_show);
     expect({"show", "a.bin", "-o", "b.json", "-"}, options_of_show);
-    expect({"show", "--o"}, "--output\tWrite the document to FILE instead of standard output\n");
-    expect({"show", "--full"}, "--full\tWrite the fields that are zero as well\n");
+    expect({"show", "--o"}, "--output\tWrite to FILE instead of standard output\n");
+    expect({"show", "--full"}, "--full\tWrite the fields that are zero as well, in a document\n");
     expect({"show", "--all"}, "");
     expect({"-"}, "-h\tPrint this help and exit\n"
                   "--help\tPrint this help and exit\n"

@@ -2,6 +2,7 @@
 
 #include "tool/commands/commands.h"
 #include "tool/files.h"
+#include "tool/input.h"
 
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
@@ -44,13 +45,14 @@ Examples:
   pondiff check --strict running.bin && pondiff show running.bin)";
 
 struct Arguments {
+    Input input;
     std::string configuration;
     bool strict = false;
 };
 
-ExitStatus run(const Arguments& arguments)
+ExitStatus run(Arguments& arguments)
 {
-    const std::unique_ptr<GCfg> configuration = read_configuration(arguments.configuration);
+    const std::unique_ptr<GCfg> configuration = arguments.input.configuration(arguments.configuration);
     const std::vector<Finding> findings = check(*configuration);
     if (findings.empty())
         return ExitStatus::success;
@@ -66,9 +68,13 @@ std::function<ExitStatus()> setup(CLI::App& command)
 {
     const auto arguments = std::make_shared<Arguments>();
     command.add_option("FILE", arguments->configuration, "Configuration to look at; - is standard input")->required();
+    arguments->input.add_option(command);
     command.add_flag("--strict", arguments->strict, "Exit with status 2 instead of 1 when anything is found");
     command.footer(details);
-    return [arguments] { return run(*arguments); };
+    return [arguments] {
+        arguments->input.check({arguments->configuration});
+        return run(*arguments);
+    };
 }
 
 } // namespace

@@ -26,6 +26,7 @@ struct Command {
     COMMAND(check)                                                                                                     \
     COMMAND(pack)                                                                                                      \
     COMMAND(show)                                                                                                      \
+    COMMAND(apply)                                                                                                     \
     COMMAND(complete)
 
 #define DECLARATION(name) extern const Command name##_command;

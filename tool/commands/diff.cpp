@@ -6,6 +6,7 @@
 #include "tool/describe/description.h"
 #include "tool/errors.h"
 #include "tool/files.h"
+#include "tool/input.h"
 #include "tool/messages.h"
 #include "tool/script.h"
 
@@ -70,6 +71,7 @@ Examples:
 }
 
 struct Arguments {
+    Input input;
     std::string orig;
     std::string cfg;
     std::string output = standard_stream;
@@ -122,10 +124,10 @@ void warn_of_silent_fields(std::size_t count)
         report_warning(fmt::format("{} fields differ without a command in this scope", count));
 }
 
-ExitStatus run(const Area& area, const Arguments& arguments)
+ExitStatus run(const Area& area, Arguments& arguments)
 {
-    const std::unique_ptr<GCfg> orig = read_configuration(arguments.orig);
-    const std::unique_ptr<GCfg> cfg = read_configuration(arguments.cfg);
+    const std::unique_ptr<GCfg> orig = arguments.input.configuration(arguments.orig);
+    const std::unique_ptr<GCfg> cfg = arguments.input.configuration(arguments.cfg);
     if (warn_of_findings(area, *orig, *cfg, arguments) && arguments.strict)
         throw Error("no script is written: --strict");
     const std::string script = script_of(area, *orig, *cfg, arguments);
@@ -168,6 +170,7 @@ std::function<ExitStatus()> setup(CLI::App& command)
                     "what --all renders")
         ->option_text("AREA")
         ->check(completed_by(area_candidates()));
+    arguments->input.add_option(command);
     command.add_flag("--strict", arguments->strict,
                      "Write no script when CFG has a value that no script can\n"
                      "carry; the exit status is then 2");
@@ -178,8 +181,7 @@ std::function<ExitStatus()> setup(CLI::App& command)
         ->option_text("FILE");
     command.footer(details());
     return [arguments] {
-        if (arguments->orig == standard_stream && arguments->cfg == standard_stream)
-            throw UsageError("only one of ORIG and CFG can be standard input");
+        arguments->input.check({arguments->orig, arguments->cfg});
         return run(arguments->only ? area_named(*arguments->only) : whole_configuration(arguments->common), *arguments);
     };
 }

@@ -1,5 +1,6 @@
 #include "tool/commands/commands.h"
 #include "tool/files.h"
+#include "tool/input.h"
 
 #include <CLI/CLI.hpp>
 #include <memory>
@@ -11,9 +12,10 @@ namespace pondiff::tool {
 namespace {
 
 constexpr char details[] =
-    R"(Makes the record of a configuration that is written as a JSON document: what the
-document leaves out is zero. "pondiff show" is the way back; a record that was
-shown and packed again is the same, byte for byte.
+    R"(Makes the record of a configuration that is written as a JSON document or as a
+text of commands. What a document leaves out is zero. "pondiff show" is the way
+back; a record that was shown as a document and packed again is the same, byte
+for byte.
 
 RECORD is replaced as a whole or, after an error, left as it was.
 
@@ -26,13 +28,14 @@ Examples:
   pondiff show running.bin | sed s/olt-16/olt-17/ | pondiff pack - -o wanted.bin)";
 
 struct Arguments {
-    std::string document;
+    Input input;
+    std::string configuration;
     std::string record;
 };
 
-ExitStatus run(const Arguments& arguments)
+ExitStatus run(Arguments& arguments)
 {
-    const std::unique_ptr<GCfg> record = read_configuration(arguments.document);
+    const std::unique_ptr<GCfg> record = arguments.input.configuration(arguments.configuration);
     write_file(arguments.record, {reinterpret_cast<const char*>(record.get()), sizeof(GCfg)});
     return ExitStatus::success;
 }
@@ -40,16 +43,20 @@ ExitStatus run(const Arguments& arguments)
 std::function<ExitStatus()> setup(CLI::App& command)
 {
     const auto arguments = std::make_shared<Arguments>();
-    command.add_option("JSON", arguments->document, "Configuration to read; - is standard input")->required();
+    command.add_option("FILE", arguments->configuration, "Configuration to read; - is standard input")->required();
+    arguments->input.add_option(command);
     command.add_option("-o,--output", arguments->record, "File to write the record to, required; - is standard output")
         ->required()
         ->option_text("RECORD");
     command.footer(details);
-    return [arguments] { return run(*arguments); };
+    return [arguments] {
+        arguments->input.check({arguments->configuration});
+        return run(*arguments);
+    };
 }
 
 } // namespace
 
-const Command pack_command{"pack", "Make a record of a JSON document", setup};
+const Command pack_command{"pack", "Make a record of a configuration", setup};
 
 } // namespace pondiff::tool

@@ -1,0 +1,57 @@
+#ifndef TOOL_LINES_H
+#define TOOL_LINES_H
+
+#include "tool/language/reader.h"
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace pondiff::tool {
+
+/// What a device did not do of a text of commands: lines that it refused, and lines that it took without setting
+/// anything, as they are written for several values.
+class LineReport {
+  public:
+    /// @param file           the text's, as messages call it
+    /// @param configuration  what the device holds
+    LineReport(std::string file, const GCfg& configuration);
+
+    /// Takes a line's outcome. The text that the line is in stays.
+    void add(const Line& line);
+
+    /// Prints a message for each line refused, and one for each text that set nothing. Of many, the first ones.
+    void print() const;
+
+    bool any_taken() const { return taken_; }
+    bool any_refused() const { return refused_.lines != 0; }
+    /// The first line that was refused, as messages show it.
+    std::string first_refused() const;
+
+  private:
+    struct Mention {
+        std::size_t number;
+        std::string place;
+        std::string reason;
+        std::string_view text;
+        std::size_t lines = 1;
+    };
+    struct Mentions {
+        std::vector<Mention> shown; ///< the first ones
+        std::size_t lines = 0;      ///< all of them
+    };
+
+    void mention(Mentions& mentions, const Line& line, const std::string& reason) const;
+    void print(const Mentions& mentions, const char* what) const;
+
+    std::string file_;
+    const GCfg& configuration_;
+    bool taken_ = false;
+    Mentions refused_;
+    Mentions ambiguous_;
+};
+
+} // namespace pondiff::tool
+
+#endif
