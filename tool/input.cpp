@@ -65,14 +65,16 @@ std::unique_ptr<GCfg> from_document(std::string_view content, const std::string&
 
 void warn_of_unsaid(std::size_t count, const std::string& name, bool with_base)
 {
-    if (count == 0) {
-        return;
+    const bool one = count == 1;
+    std::string why = "--base FILE takes them from a record or document";
+    if (with_base) {
+        why = one ? "the base does not have the object that it belongs to"
+                  : "the base does not have the objects that they belong to";
     }
-    report_warning(fmt::format("{}: {} no command and {} left unset{}", name,
-                               count == 1 ? "1 field has" : fmt::format("{} fields have", count),
-                               count == 1 ? "is" : "are",
-                               with_base ? "; the base does not have the objects that they belong to"
-                                         : "; --base FILE takes them from a record or document"));
+    if (count != 0) {
+        report_warning(fmt::format("{}: {} {} no command and {} left unset; {}", name, count,
+                                   one ? "field has" : "fields have", one ? "is" : "are", why));
+    }
 }
 
 } // namespace
@@ -116,7 +118,11 @@ std::unique_ptr<GCfg> Input::from_text(std::string_view content, const std::stri
     }
     auto configuration = blank_configuration();
     LineReport report(name, *configuration);
-    read_script(without_mark(content), *configuration, [&report](const Line& line) { report.add(line); });
+    Unsaid unsaid(*configuration);
+    read_script(without_mark(content), *configuration, [&](const Line& line) {
+        report.add(line);
+        unsaid.add(line);
+    });
     if (!report.any_taken()) {
         if (content.size() == sizeof(GCfg)) {
             return from_record(content);
@@ -125,7 +131,7 @@ std::unique_ptr<GCfg> Input::from_text(std::string_view content, const std::stri
              report.any_refused() ? ", and no line is a command; the first is: " + report.first_refused() : "");
     }
     report.print();
-    warn_of_unsaid(fill_in_unsaid(*configuration, base()), name, base() != nullptr);
+    warn_of_unsaid(unsaid.fill_in(base()), name, base() != nullptr);
     return configuration;
 }
 
@@ -142,7 +148,7 @@ const GCfg* Input::base()
             base_ = from_record(content);
             break;
         case Kind::text:
-            fail(content, name, "");
+            fail(content, name, ", and --base takes nothing else");
         }
     }
     return base_.get();

@@ -5,6 +5,7 @@
 
 #include <cstring>
 #include <optional>
+#include <string_view>
 
 namespace pondiff::tool {
 
@@ -12,23 +13,36 @@ namespace {
 
 using Kind = Syntax::Kind;
 
-/// Whether no command sets the field. What means nothing is no loss; what makes an object is said by naming it.
-bool is_unsaid(const Field& field)
+bool has_no_command(const Field& field)
 {
     return field.syntax.kind == Kind::no_command || field.syntax.kind == Kind::ambiguous;
 }
 
-/// The leaves of what is in use, but for those that mean nothing.
-std::size_t count_leaves(const Field& field, const unsigned char* at)
+/// A switch that is off already when nothing is set: what is on cannot be said.
+bool is_only_switched_off(const Field& field)
 {
-    if (field.record == nullptr) {
-        return field.syntax.kind == Kind::counter || field.syntax.kind == Kind::existence ? 0 : field.count;
-    }
+    return field.syntax.kind == Kind::says && field.syntax.set == nullptr;
+}
+
+/// An array whose first element alone has a command.
+bool has_command_for_first(const Field& field)
+{
+    return field.array && field.layout == Layout::plain && field.syntax.kind == Kind::says &&
+           field.syntax.set != nullptr && std::string_view(field.syntax.set).find("<#") == std::string_view::npos;
+}
+
+/// The leaves of what is in use, but for those that mean nothing.
+std::size_t count_leaves(const Record& record, const unsigned char* at)
+{
     std::size_t count = 0;
-    for (std::size_t i = 0; i < field.count; ++i) {
-        const unsigned char* const element = at + i * field.width;
-        for (const Field& inner : *field.record) {
-            count += in_use(*field.record, element) ? count_leaves(inner, element + inner.offset) : 0;
+    for (const Field& field : record) {
+        if (field.record == nullptr) {
+            count += field.syntax.kind == Kind::counter || field.syntax.kind == Kind::existence ? 0 : field.count;
+            continue;
+        }
+        for (std::size_t i = 0; i < field.count; ++i) {
+            const unsigned char* const element = at + field.offset + i * field.width;
+            count += in_use(*field.record, element) ? count_leaves(*field.record, element) : 0;
         }
     }
     return count;
@@ -49,38 +63,54 @@ const unsigned char* same_element(const Table& table, std::size_t slot, const Ta
     return found && in_use(record, base.at(*found)) ? base.at(*found) : nullptr;
 }
 
+} // namespace
+
+Unsaid::Unsaid(GCfg& configuration) : bytes_(reinterpret_cast<unsigned char*>(&configuration)) {}
+
+void Unsaid::add(const Line& line)
+{
+    for (const Setting& setting : line.settings) {
+        if (is_only_switched_off(*setting.field)) {
+            switched_off_.insert(setting.offset);
+        }
+    }
+}
+
+std::size_t Unsaid::fill_in(const GCfg* base) const
+{
+    return fill_in(gcfg_record, bytes_, reinterpret_cast<const unsigned char*>(base));
+}
+
+bool Unsaid::is_unsaid(const Field& field, std::size_t index, const unsigned char* at) const
+{
+    if (is_only_switched_off(field)) {
+        return switched_off_.count(static_cast<std::size_t>(at - bytes_)) == 0;
+    }
+    return has_no_command(field) || (index != 0 && has_command_for_first(field));
+}
+
 /// @param base  the same object in the other configuration; null where there is none
-std::size_t fill_in(const Record& record, unsigned char* at, const unsigned char* base)
+std::size_t Unsaid::fill_in(const Record& record, unsigned char* at, const unsigned char* base) const
 {
     std::size_t left = 0;
     for (const Field& field : record) {
-        unsigned char* const first = at + field.offset;
-        auto* const base_first = const_cast<unsigned char*>(base != nullptr ? base + field.offset : nullptr);
-        if (is_unsaid(field)) {
-            if (base != nullptr) {
-                std::memcpy(first, base_first, field.size);
-            } else {
-                left += count_leaves(field, first);
-            }
-            continue;
-        }
-        const Table table{&field, first};
-        for (std::size_t i = 0; field.record != nullptr && i < field.count; ++i) {
-            if (in_use(*field.record, table.at(i))) {
-                const auto* const same = base != nullptr ? same_element(table, i, {&field, base_first}) : nullptr;
+        const Table table{&field, at + field.offset};
+        const Table base_table{&field, const_cast<unsigned char*>(base != nullptr ? base + field.offset : nullptr)};
+        for (std::size_t i = 0; i < field.count; ++i) {
+            const bool here = field.record == nullptr || in_use(*field.record, table.at(i));
+            if (is_unsaid(field, i, table.at(i))) {
+                if (base != nullptr) {
+                    std::memcpy(table.at(i), base_table.at(i), field.width);
+                } else if (here) {
+                    left += field.record != nullptr ? count_leaves(*field.record, table.at(i)) : 1;
+                }
+            } else if (field.record != nullptr && here) {
+                const auto* const same = base != nullptr ? same_element(table, i, base_table) : nullptr;
                 left += fill_in(*field.record, table.at(i), same);
             }
         }
     }
     return left;
-}
-
-} // namespace
-
-std::size_t fill_in_unsaid(GCfg& configuration, const GCfg* base)
-{
-    return fill_in(gcfg_record, reinterpret_cast<unsigned char*>(&configuration),
-                   reinterpret_cast<const unsigned char*>(base));
 }
 
 } // namespace pondiff::tool
