@@ -28,11 +28,16 @@
  * that script is.
  *
  * Switches, set by initiate_diff_c and kept until it is called again:
- *   need_all_cfg  non-zero: what an operation reaches is rendered as if every field had changed. Not everything that
- *                 is equal is reached: GetDiff_c and GetPonDiff_c pass over equal ONTs, GetDiff_c over the management
- *                 network, the services and the layout of serial numbers where each is equal as a whole. The common
- *                 records, and one ONT, GPON port, profile slot or block that is asked for, are always reached; equal
- *                 users and routes never are.
+ *   need_all_cfg  non-zero: what is equal is rendered, too, as if it had changed. These are not, while they are equal:
+ *                 - a user, a static route, a binding and a VLAN of the IP source guard;
+ *                 - the names of VLAN profiles and terminal VLANs; the session limits of PPPoE profiles; the upstream
+ *                   shapers and the storm control of shaping profiles; the services of ONT templates; the load average
+ *                   and the temperatures of the alarms;
+ *                 - an ONT, for GetDiff_c and GetPonDiff_c; for GetDiff_c, the management network, the services, the IP
+ *                   source guard and the layout of serial numbers, each as a whole. Where common_type is 1, or where
+ *                   one of them is asked for by itself, they are rendered.
+ *                 The VLAN and the groups of an equal multicast entry are rendered as the commands that remove them
+ *                 ("no ... dynamic-entry").
  *   common_type   1: GetDiff_c shows the common records alone (CLI settings, alarms, layout of serial numbers, PON
  *                 network, OLT settings, IP source guard). Any other value: the whole configuration.
  *                 need_all_cfg forces the alarms, the layout of serial numbers, the PON network and the OLT settings

@@ -84,12 +84,11 @@ extern char* user2id_connection[GCFG_USERS];
 extern char* ont2id_connection[GCFG_ONTS];
 /// Declared for the device software; never filled or read.
 extern char* def_ont2id_connection[512];
-/// Alarm type words: constants.
+/// What `finalize_diff` leaves as it is: alarm type words, which are constants, ...
 extern const char* alarm2id_connection[GCFG_ALARM_TYPES];
-/// VLAN ids of the DHCP relay redefinitions; kept for record diffs of the device software.
+/// ... VLAN ids of the DHCP relay redefinitions, for record diffs of the device software, ...
 extern unsigned short profile_dhcpra_redefinition2id_connection[GCFG_RELAY_REDEFINITIONS];
-
-/// Addresses of the new configuration in dotted form, used or not.
+/// ... and addresses of the new configuration, dotted, used or not.
 extern char telnetip[GCFG_ALLOW_ENTRIES][16];
 extern char sship[GCFG_ALLOW_ENTRIES][16];
 extern char snmpip[GCFG_ALLOW_ENTRIES][16];
@@ -102,10 +101,11 @@ extern int sn_format;
 
 /// Builds every table from the two configurations and sets the current view to "root"; what an earlier call built is
 /// released first. Called by `initiate_diff`.
-/// @return 0; -1 when memory cannot be had or a record is null: the tables are then empty
+/// @return 0; -1 when memory cannot be allocated or a record is null: there are no names then
 int data_prepare(GCfg_t* orig, GCfg_t* cfg);
 
-/// Empties every table. Called by `finalize_diff`; harmless when there is nothing to release.
+/// Frees the names; the tables that hold none keep what they hold. Called by `finalize_diff`; harmless when there is
+/// nothing to free.
 int data_free();
 
 /// The name of a profile of the new configuration; never freed by the caller.

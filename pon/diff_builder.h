@@ -18,7 +18,8 @@ PON_EXPORTS_BEGIN
 
 // ------------------------------------------------------------------------------------------------------- switches
 
-/// Non-zero: record diffs render every field as if it had changed. 0 at first; set by `initiate_diff`.
+/// Non-zero: record diffs render what is equal, too, except for what <pondiff.h> names under `need_all_cfg`. 0 at
+/// first; set by `initiate_diff`.
 extern int print_all;
 /// Which part of a full diff is wanted: exactly 1 (the value at first) the common records only. With `print_all`, the
 /// values 1 and 2 force the common settings, 2 the default relay profiles too.
@@ -123,8 +124,6 @@ bool getdiff_GSystemLogDestCfg(GSystemLogDestCfg* lhs, GSystemLogDestCfg* rhs, i
 bool getdiff_GSystemLogCfg(GSystemLogCfg* lhs, GSystemLogCfg* rhs, int* key, List<char>& out);
 bool getdiff_GSubmoduleLogCfg(GSubmoduleLogCfg* lhs, GSubmoduleLogCfg* rhs, int* key, List<char>& out);
 bool getdiff_GSystemNtpCfg(GSystemNtpCfg* lhs, GSystemNtpCfg* rhs, int* key, List<char>& out);
-/// Steps of the device's temperature, for its software: no command uses them.
-extern const int TEMPERATURE_LEVELS[8];
 bool getdiff_GSystemAlarmCfg(GSystemAlarmCfg* lhs, GSystemAlarmCfg* rhs, int* key, List<char>& out);
 bool getdiff_GSystemAlarmTypeCfg(GSystemAlarmTypeCfg* lhs, GSystemAlarmTypeCfg* rhs, int* key, List<char>& out);
 bool getdiff_GSystemAlarmSystemCfg(GSystemAlarmSystemCfg* lhs, GSystemAlarmSystemCfg* rhs, int* key, List<char>& out);

@@ -80,7 +80,6 @@ void expect_every_slot_null()
     EXPECT_TRUE(std::all_of(std::begin(terminalvlan2id_connection), std::end(terminalvlan2id_connection), is_null));
     EXPECT_TRUE(std::all_of(std::begin(user2id_connection), std::end(user2id_connection), is_null));
     EXPECT_TRUE(std::all_of(std::begin(ont2id_connection), std::end(ont2id_connection), is_null));
-    EXPECT_TRUE(std::all_of(std::begin(alarm2id_connection), std::end(alarm2id_connection), is_null));
 }
 
 class NameTables : public testing::Test {
@@ -412,22 +411,25 @@ TEST_F(NameTables, AfterClosingEverySlotIsNull)
     EXPECT_EQ(getTerminalVlanName(0), nullptr);
 }
 
-TEST_F(NameTables, AfterClosingEveryAddressIsEmpty)
+TEST_F(NameTables, WhatHoldsNoNamesIsKeptAfterClosing)
 {
-    std::memset(&session.cfg->system.services, 0xFF, sizeof session.cfg->system.services);
+    GSystemServices& services = session.cfg->system.services;
+    put(services.telnet.allow[15].ip, {10, 0, 0, 1});
+    put(services.ssh.allow[15].ip, {10, 0, 0, 2});
+    put(services.snmp.allow[15].ip, {10, 0, 0, 3});
+    put(services.routing.route[511].prefix, {10, 0, 0, 4});
+    put(services.source_guard.bind[1023].ip, {10, 0, 0, 5});
+    services.alarm.type[45].type = 6;
+    session.cfg->pon.olt.general.profile_olt_dhcpra_redefinition[GCFG_RELAY_REDEFINITIONS - 1].vid = 4094;
     session.open();
-    ASSERT_STREQ(sourceguardip[1023], "255.255.255.255");
     EXPECT_EQ(finalize_diff(), 0);
-    const auto is_empty = [](const auto& rows) {
-        return std::all_of(std::begin(rows), std::end(rows), [](const char(&row)[16]) {
-            return std::all_of(std::begin(row), std::end(row), [](char byte) { return byte == '\0'; });
-        });
-    };
-    EXPECT_TRUE(is_empty(telnetip));
-    EXPECT_TRUE(is_empty(sship));
-    EXPECT_TRUE(is_empty(snmpip));
-    EXPECT_TRUE(is_empty(routeip));
-    EXPECT_TRUE(is_empty(sourceguardip));
+    EXPECT_STREQ(telnetip[15], "10.0.0.1");
+    EXPECT_STREQ(sship[15], "10.0.0.2");
+    EXPECT_STREQ(snmpip[15], "10.0.0.3");
+    EXPECT_STREQ(routeip[511], "10.0.0.4");
+    EXPECT_STREQ(sourceguardip[1023], "10.0.0.5");
+    EXPECT_STREQ(alarm2id_connection[45], "duplicate-mac");
+    EXPECT_EQ(profile_dhcpra_redefinition2id_connection[GCFG_RELAY_REDEFINITIONS - 1], 4094);
 }
 
 TEST_F(NameTables, ClosingTwiceOrWithoutOpeningIsHarmless)

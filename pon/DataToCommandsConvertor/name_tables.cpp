@@ -187,13 +187,6 @@ int data_free()
         if (table.old_names)
             release(table.old_names, table.slots);
     }
-    std::memset(alarm2id_connection, 0, sizeof alarm2id_connection);
-    std::memset(profile_dhcpra_redefinition2id_connection, 0, sizeof profile_dhcpra_redefinition2id_connection);
-    std::memset(telnetip, 0, sizeof telnetip);
-    std::memset(sship, 0, sizeof sship);
-    std::memset(snmpip, 0, sizeof snmpip);
-    std::memset(routeip, 0, sizeof routeip);
-    std::memset(sourceguardip, 0, sizeof sourceguardip);
     return 0;
 }
 

@@ -80,8 +80,9 @@ TEST(AlarmType, TypeWithoutAWordLeavesTheNameEmpty)
                                    "commit\n");
 }
 
-TEST(AlarmType, OutsideASessionTheNameIsEmpty)
+TEST(AlarmType, BeforeAnySessionTheNameIsEmpty)
 {
+    alarm2id_connection[0] = nullptr;
     Diff alarm{getdiff_GSystemAlarmTypeCfg};
     alarm.after.severity = 4;
     EXPECT_EQ(alarm.elements(), (Elements{"configure terminal", "alarm  severity \"warning\""}));
@@ -278,12 +279,6 @@ TEST(Alarms, ForcedByTheCommonSettingsShowsFourCommandsForEachType)
         EXPECT_EQ(alarm.script(), expected);
         EXPECT_EQ(alarm.key[0], 45);
     }
-}
-
-TEST(Alarms, TemperatureLevels)
-{
-    EXPECT_EQ(std::vector<int>(std::begin(TEMPERATURE_LEVELS), std::end(TEMPERATURE_LEVELS)),
-              (std::vector<int>{30, 40, 45, 50, 55, 60, 65, 70}));
 }
 
 } // namespace

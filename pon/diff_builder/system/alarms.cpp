@@ -2,7 +2,12 @@
 
 using namespace pondiff;
 
-const int TEMPERATURE_LEVELS[8] = {30, 40, 45, 50, 55, 60, 65, 70};
+namespace {
+
+/// Steps of the device's temperature. No command uses them.
+[[maybe_unused]] constexpr int TEMPERATURE_LEVELS[8] = {30, 40, 45, 50, 55, 60, 65, 70};
+
+} // namespace
 
 bool getdiff_GSystemAlarmCfg(GSystemAlarmCfg* lhs, GSystemAlarmCfg* rhs, int* key, List<char>& out)
 {
