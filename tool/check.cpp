@@ -1,11 +1,12 @@
 #include "tool/check.h"
 
-#include "pon/DataToCommandsConvertor.h"
 #include "tool/describe/description.h"
 #include "tool/describe/records.h"
 #include "tool/json/forms.h"
 #include "tool/json/words.h"
 #include "tool/profiles.h"
+#include "tool/unsafe.h"
+#include "tool/visible.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -58,28 +59,7 @@ std::string shown(const Field& field, std::string_view text)
 {
     if (field.form == Form::secret)
         return "the value";
-    return is_utf8(text) ? quote(text) : "the text";
-}
-
-/// Whether the library would replace something in a text that holds the value.
-bool holds_placeholder(std::string_view value)
-{
-    if (value.find("$ID") == value.npos)
-        return false;
-    std::string text(value);
-    int identifiers[10] = {};
-    const std::unique_ptr<char, decltype(&std::free)> emitted{useVariables(text.data(), identifiers), &std::free};
-    if (!emitted)
-        throw std::bad_alloc();
-    return text != emitted.get();
-}
-
-bool holds_control_character(std::string_view value)
-{
-    return std::any_of(value.begin(), value.end(), [](char c) {
-        const auto byte = static_cast<unsigned char>(c);
-        return byte < 0x20 || byte == 0x7F;
-    });
+    return is_utf8(text) ? visible(quote(text)) : "the text";
 }
 
 /// The terminal VLAN that a VLAN id or a priority stands for, or -1.
@@ -100,7 +80,7 @@ class Inspection {
     /// @param orig  what the device runs, where that is known: what is 0 in `cfg` alone has not been left out
     Inspection(const GCfg& cfg, const GCfg* orig, Zeros zeros) : cfg_(cfg), orig_(orig), zeros_(zeros)
     {
-        look_at(gcfg_record, 0);
+        look_at(gcfg_record, 0, Presence::there);
         std::stable_sort(findings_.begin(), findings_.end(),
                          [](const Finding& a, const Finding& b) { return a.offset < b.offset; });
     }
@@ -116,6 +96,16 @@ class Inspection {
         std::size_t offset;
     };
 
+    /// Whether an object is there. One that is not has no findings, unless removing it shows what its slot holds: no
+    /// command removes such an object.
+    enum class Presence { there, removable, absent };
+    Presence presence_of(const Field& field, std::size_t offset, Presence outer) const
+    {
+        if (outer != Presence::there || in_use(*field.record, at(offset)))
+            return outer;
+        return field.element.enter && !field.element.remove ? Presence::removable : Presence::absent;
+    }
+
     static const unsigned char* bytes_of(const GCfg& configuration)
     {
         return reinterpret_cast<const unsigned char*>(&configuration);
@@ -123,9 +113,10 @@ class Inspection {
     const unsigned char* at(std::size_t offset) const { return bytes_of(cfg_) + offset; }
     std::int64_t number_at(const Place& place) const { return get_number(place.field, at(place.offset)); }
 
-    void look_at(const Record& record, std::size_t offset);
+    void look_at(const Record& record, std::size_t offset, Presence presence);
     void look_at_names(const Field& array, std::size_t offset);
     void judge(const Place& place);
+    void judge_end(const Place& place);
     void judge_text(const Place& place);
     void judge_enumeration(const Place& place);
     void judge_profile(const Place& place, const ProfileKind& kind);
@@ -144,22 +135,23 @@ class Inspection {
     std::vector<Finding> findings_;
 };
 
-void Inspection::look_at(const Record& record, std::size_t offset)
+void Inspection::look_at(const Record& record, std::size_t offset, Presence presence)
 {
-    if (!in_use(record, at(offset)))
-        return;
     for (const Field& field : record) {
         const std::size_t start = offset + field.offset;
         for (std::size_t i = 0; i < field.count; ++i) {
             const std::size_t element = start + i * field.width;
             path_.push(field, i);
+            const Place place{record, offset, field, i, element};
             if (field.record)
-                look_at(*field.record, element);
-            else
-                judge({record, offset, field, i, element});
+                look_at(*field.record, element, presence_of(field, element, presence));
+            else if (presence == Presence::there)
+                judge(place);
+            else if (presence == Presence::removable)
+                judge_text(place);
             path_.pop();
         }
-        if (field.record && field.array)
+        if (presence == Presence::there && field.record && field.array)
             look_at_names(field, start);
     }
 }
@@ -197,6 +189,7 @@ void Inspection::judge(const Place& place)
     switch (place.field.form) {
     case Form::text:
     case Form::secret:
+        judge_end(place);
         return judge_text(place);
     case Form::enumeration:
         return judge_enumeration(place);
@@ -209,20 +202,24 @@ void Inspection::judge(const Place& place)
     }
 }
 
-void Inspection::judge_text(const Place& place)
+void Inspection::judge_end(const Place& place)
 {
     const std::string_view value = text_at(place.field, at(place.offset));
-    const auto complain = [&](const std::string& of_what) { add(place, shown(place.field, value) + of_what); };
     if (value.size() == place.field.width)
-        complain(fmt::format(" has no end within its {} bytes", place.field.width));
-    if (place.field.silent)
+        add(place, shown(place.field, value) + fmt::format(" has no end within its {} bytes", place.field.width));
+}
+
+/// What would reach a script and do harm there, whether the object is there or not.
+void Inspection::judge_text(const Place& place)
+{
+    const bool is_text = place.field.form == Form::text || place.field.form == Form::secret;
+    if (!is_text || place.field.silent)
         return;
-    if (value.find('"') != value.npos)
-        complain(" holds a quote");
-    if (holds_control_character(value))
-        complain(" holds a control character");
-    if (holds_placeholder(value))
-        complain(" holds a placeholder");
+    const std::string_view value = text_at(place.field, at(place.offset));
+    for (const std::string& part : unsafe_parts(value)) {
+        add(place, shown(place.field, value) + part);
+        findings_.back().unsafe = true;
+    }
 }
 
 void Inspection::judge_enumeration(const Place& place)

@@ -4,15 +4,16 @@
 /// @file
 /// Values of a configuration that no script can carry, since a value is emitted as it is stored.
 ///
-/// - Texts that hold a quote, a control character or a placeholder, which the library replaces in any text that it
-///   emits. A text that no command shows may hold what it likes, but like the others it must have an end.
+/// - Texts that hold a quote, a control character, a character that does not show, or a placeholder, which the library
+///   replaces in any text that it emits. In a free slot of a profile they count, too, where removing the profile shows
+///   them. A text that no command shows may hold what it likes, but like the others it must have an end.
 /// - Names that two profiles of a kind, two terminal VLANs or two users share: the CLI cannot tell them apart.
 /// - References to a profile or a terminal VLAN that does not exist. A 0 is also what a document leaves out: one that
 ///   refers to a profile counts only beside a -1, a reference to none, in the same record, whose writer knew how to say
 ///   that. In a template the references count that its flags define, 0 or not.
 /// - Enumerations at a value for which the registry has no word; at 0 they may have been left out.
 ///
-/// What does not exist, such as a free slot, has no findings.
+/// What does not exist, such as a free slot, has no other findings.
 
 #include "gcfg/gcfg.h"
 
@@ -27,7 +28,8 @@ struct Finding {
     std::size_t offset; ///< of the field, from the start of the configuration
     std::size_t size;
     std::string path;
-    std::string text; ///< shows the value, unless it is a password or another secret
+    std::string text;    ///< shows the value, unless it is a password or another secret
+    bool unsafe = false; ///< a text that would end its command, begin another one or hide a line
 };
 
 /// The findings in a configuration, in the order of its fields.

@@ -7,6 +7,7 @@
 #include "tool/language/objects.h"
 #include "tool/visible.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <cstring>
 #include <fmt/format.h>
@@ -36,6 +37,20 @@ bool holds_placeholder(std::string_view value)
         throw std::bad_alloc();
     }
     return text != emitted.get();
+}
+
+bool holds_control_character(std::string_view text)
+{
+    return std::any_of(text.begin(), text.end(), [](char c) {
+        const auto byte = static_cast<unsigned char>(c);
+        return byte < 0x20 || byte == 0x7F;
+    });
+}
+
+/// All that is wrong with a text: " holds a quote and holds a control character".
+std::string unsafe_part(std::string_view text)
+{
+    return fmt::format("{}", fmt::join(unsafe_parts(text), " and"));
 }
 
 /// Why a text cannot stand without quotes around it.
@@ -156,24 +171,25 @@ UnsafeText finding(const Replaced& replaced, std::string_view what)
 
 } // namespace
 
-std::string unsafe_part(std::string_view text)
+std::vector<std::string> unsafe_parts(std::string_view text)
 {
+    std::vector<std::string> parts;
     if (text.find('"') != text.npos) {
-        return " holds a quote";
+        parts.emplace_back(" holds a quote");
     }
-    for (const char c : text) {
-        const auto byte = static_cast<unsigned char>(c);
-        if (byte < 0x20 || byte == 0x7F) {
-            return " holds a control character";
-        }
+    const bool control = holds_control_character(text);
+    if (control) {
+        parts.emplace_back(" holds a control character");
     }
     if (!is_utf8(text)) {
-        return " is not UTF-8";
+        parts.emplace_back(" is not UTF-8");
+    } else if (!control && !is_visible(text)) {
+        parts.emplace_back(" holds a character that does not show");
     }
-    if (!is_visible(text)) {
-        return " holds a character that does not show";
+    if (holds_placeholder(text)) {
+        parts.emplace_back(" holds a placeholder");
     }
-    return holds_placeholder(text) ? " holds a placeholder" : "";
+    return parts;
 }
 
 std::vector<UnsafeText> unsafe_texts(const GCfg& orig, const GCfg& cfg,

@@ -15,8 +15,8 @@
 
 namespace pondiff::tool {
 
-/// What a text holds that no command can show between quotes: " holds a quote". Empty when there is nothing.
-std::string unsafe_part(std::string_view text);
+/// What a text holds that no command can show between quotes, such as " holds a quote", one for each kind.
+std::vector<std::string> unsafe_parts(std::string_view text);
 
 /// A text that a script shows though it must not.
 struct UnsafeText {

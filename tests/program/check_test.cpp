@@ -106,7 +106,7 @@ TEST_F(Check, TextThatFillsItsField)
 TEST_F(Check, TextThatIsNotUtf8IsNotShown)
 {
     expect(R"({"system": {"network": {"hostname": {"hex": "FF22"}}}})",
-           {"system.network.hostname: the text holds a quote"});
+           {"system.network.hostname: the text holds a quote", "system.network.hostname: the text is not UTF-8"});
 }
 
 TEST_F(Check, EachFlawHasALine)
@@ -157,6 +157,23 @@ TEST_F(Check, WhatDoesNotExistIsPassedOver)
                 "network": {"terminal_vlan": {"3": {"name": "\""}}},
                 "profiles_olt": {"vlan": {"0": {"name": "\"", "description": "$ID"}, "1": {"name": "\""}}},
                 "profiles_ont": {"cross_connect": {"0": {"tag_mode": 99, "outer_vid": -100}}}}})");
+}
+
+TEST_F(Check, AProfileThatNoCommandRemovesShowsWhatItsSlotHolds)
+{
+    expect(pon(R"("profiles_olt": {"dhcp_ra": {"1": {"name": "ra1", "description": "x\"\nreload\nuser \"e"}}})"),
+           {R"(pon.profiles_olt.dhcp_ra.1.description: "x\"\nreload\nuser \"e" holds a quote)",
+            R"(pon.profiles_olt.dhcp_ra.1.description: "x\"\nreload\nuser \"e" holds a control character)"});
+}
+
+TEST_F(Check, CharactersThatHideALine)
+{
+    expect(hostname("a\xE2\x80\xAE"
+                    "b"),
+           {"system.network.hostname: \"a\\u{202E}b\" holds a character that does not show"});
+    expect(hostname("a\xC2\x9B"
+                    "b"),
+           {"system.network.hostname: \"a\\u{9B}b\" holds a character that does not show"});
 }
 
 TEST_F(Check, VoicePortsBelongToTheirOnt)

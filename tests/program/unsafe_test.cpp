@@ -58,8 +58,8 @@ TEST_F(Unsafe, PlainTextsAreNot)
 TEST_F(Unsafe, AQuoteInAChangedText)
 {
     put(cfg->system.network.hostname, "a\"\nreload\nuser \"b");
-    EXPECT_EQ(found_in_full_diff(),
-              Lines{"cfg system.network.hostname: \"a\\\"\\nreload\\nuser \\\"b\" holds a quote"});
+    EXPECT_EQ(found_in_full_diff(), Lines{"cfg system.network.hostname: \"a\\\"\\nreload\\nuser \\\"b\" holds a quote "
+                                          "and holds a control character"});
 }
 
 TEST_F(Unsafe, WhatTheScriptDoesNotShowIsNotFound)
@@ -77,8 +77,8 @@ TEST_F(Unsafe, TheTextsOfARemovedProfileReachTheScript)
     put(orig->pon.profiles_olt.dhcp_ra[1].name, "ra1");
     put(cfg->pon.profiles_olt.dhcp_ra[1].name, "ra1");
     put(cfg->pon.profiles_olt.dhcp_ra[1].description, "x\"\nreload\nuser \"e");
-    EXPECT_EQ(found_in_full_diff(),
-              Lines{"cfg pon.profiles_olt.dhcp_ra.1.description: \"x\\\"\\nreload\\nuser \\\"e\" holds a quote"});
+    EXPECT_EQ(found_in_full_diff(), Lines{"cfg pon.profiles_olt.dhcp_ra.1.description: \"x\\\"\\nreload\\nuser \\\"e\" "
+                                          "holds a quote and holds a control character"});
 }
 
 TEST_F(Unsafe, TheOldNameOfAnObjectEntersIt)

@@ -9,6 +9,7 @@
 #include "tool/input.h"
 #include "tool/messages.h"
 #include "tool/script.h"
+#include "tool/unsafe.h"
 
 #include <CLI/CLI.hpp>
 #include <cstdlib>
@@ -79,6 +80,7 @@ struct Arguments {
     int common = 0;
     bool all = false;
     bool strict = false;
+    bool force = false;
     bool verbatim = false;
 };
 
@@ -103,12 +105,28 @@ std::string script_of(const Area& area, GCfg& orig, GCfg& cfg, const Arguments& 
     return text.get();
 }
 
-/// Warns of the values in an area that no script can carry; true when there are any.
+/// Reports the texts that the script shows and must not, each with its file and path; true when there are any.
+bool report_unsafe_texts(const Area& area, const GCfg& orig, const GCfg& cfg, const Arguments& arguments)
+{
+    const std::vector<UnsafeText> texts = unsafe_texts(
+        orig, cfg, [&](GCfg& old_copy, GCfg& new_copy) { return script_of(area, old_copy, new_copy, arguments); });
+    for (const UnsafeText& unsafe : texts) {
+        if (unsafe.source == UnsafeText::Source::platform) {
+            report_warning(unsafe.text);
+            continue;
+        }
+        const std::string& file = unsafe.source == UnsafeText::Source::cfg ? arguments.cfg : arguments.orig;
+        report_warning(fmt::format("{}: {}: {}", name_of_input(file), unsafe.path, unsafe.text));
+    }
+    return !texts.empty();
+}
+
+/// Warns of the values in an area that mean nothing to a device; true when there are any.
 bool warn_of_findings(const Area& area, const GCfg& orig, const GCfg& cfg, const Arguments& arguments)
 {
     bool any = false;
     for (const Finding& finding : check_change(orig, cfg, arguments.all)) {
-        if (!overlaps(area.records, finding.offset, finding.size))
+        if (finding.unsafe || !overlaps(area.records, finding.offset, finding.size))
             continue;
         report_warning(fmt::format("{}: {}: {}", name_of_input(arguments.cfg), finding.path, finding.text));
         any = true;
@@ -128,6 +146,8 @@ ExitStatus run(const Area& area, Arguments& arguments)
 {
     const std::unique_ptr<GCfg> orig = arguments.input.configuration(arguments.orig);
     const std::unique_ptr<GCfg> cfg = arguments.input.configuration(arguments.cfg);
+    if (report_unsafe_texts(area, *orig, *cfg, arguments) && !arguments.force)
+        throw Error("no script is written: it would not do what it shows; --force writes it");
     if (warn_of_findings(area, *orig, *cfg, arguments) && arguments.strict)
         throw Error("no script is written: --strict");
     const std::string script = script_of(area, *orig, *cfg, arguments);
@@ -172,8 +192,12 @@ std::function<ExitStatus()> setup(CLI::App& command)
         ->check(completed_by(area_candidates()));
     arguments->input.add_option(command);
     command.add_flag("--strict", arguments->strict,
-                     "Write no script when CFG has a value that no script can\n"
-                     "carry; the exit status is then 2");
+                     "Write no script when CFG has a value that means nothing to\n"
+                     "a device; the exit status is then 2");
+    command.add_flag("--force", arguments->force,
+                     "Write the script even when a text in it has a quote, a\n"
+                     "control character or the like, which ends its command or\n"
+                     "hides a line");
     command.add_flag("--verbatim", arguments->verbatim,
                      "Print the script even when it would change nothing; the\n"
                      "exit status stays 0");
