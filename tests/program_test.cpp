@@ -249,7 +249,12 @@ TEST_F(Script, MovesBetweenViewsOfWhatExistsAreNothingToDo)
     expect_nothing_to_do("configure terminal\ninterface ont 1/6\nexit\ninterface ont 8/19\nexit\nexit\ncommit\n");
     expect_nothing_to_do("configure terminal\nprofile vlan \"residential\"\nexit\nprofile dhcp-ra \"relay\"\nexit\n"
                          "template \"home\"\nexit\nprofile dba \"SixteenLettersXX\"\nexit\nexit\ncommit\n");
-    expect_nothing_to_do("configure terminal\nprofile voice \"two\nlines\"\nexit\nexit\ncommit\n");
+    expect_nothing_to_do("configure terminal\nprofile vlan residential\nexit\nexit\ncommit\n");
+}
+
+TEST_F(Script, ANameThatBreaksALineIsNoMove)
+{
+    expect_printed("configure terminal\nprofile voice \"two\nlines\"\nexit\nexit\ncommit\n");
 }
 
 TEST_F(Script, EveryKindOfProfileIsKnown)
@@ -294,7 +299,6 @@ TEST_F(Script, ProfileIsKnownByItsKindAndItsWholeName)
 {
     expect_printed("configure terminal\nprofile dhcpv6-ra \"relay\"\nexit\nexit\ncommit\n");
     expect_printed("configure terminal\nprofile vlan \"resident\"\nexit\nexit\ncommit\n");
-    expect_printed("configure terminal\nprofile vlan residential\nexit\nexit\ncommit\n");
     expect_printed("configure terminal\nprofile dba \"SixteenLettersX\"\nexit\nexit\ncommit\n");
 }
 

@@ -40,6 +40,7 @@ const Line& Device::take(std::string_view line)
     line_.text = line;
     line_.kind = Line::Kind::passed_over;
     line_.ambiguous = false;
+    line_.names_only = false;
     line_.standing = standing_;
     line_.created = {};
     line_.removed = {};
@@ -130,6 +131,7 @@ bool Device::set(const Match& match)
     if (line_.ambiguous) {
         return true;
     }
+    line_.names_only = pattern.does == Pattern::Does::name && pattern.array->element.told == Element::Told::by_name;
     unsigned char* at = base();
     if (pattern.array != nullptr) {
         std::size_t slot = 0;
