@@ -33,13 +33,14 @@ TEST_F(Judgement, DeclarationOfAKnownNameChangesNothing)
     EXPECT_TRUE(changes_nothing("configure terminal\ngpon network terminal-vlan \"iptv\"\n"
                                 "gpon network terminal-vlan \"sixteen-letters!\"\n"));
     EXPECT_TRUE(changes_nothing("configure terminal\ngpon network terminal-vlan \"iptv\"\nexit\ncommit\n"));
+    EXPECT_TRUE(
+        changes_nothing("configure terminal\ngpon network terminal-vlan \"\"\n")); // there is one without a name
 }
 
 TEST_F(Judgement, DeclarationOfAnotherNameDoes)
 {
     EXPECT_FALSE(changes_nothing("configure terminal\ngpon network terminal-vlan \"ipt\"\n"));
     EXPECT_FALSE(changes_nothing("configure terminal\ngpon network terminal-vlan \"freed\"\n"));
-    EXPECT_FALSE(changes_nothing("configure terminal\ngpon network terminal-vlan \"\"\n"));
     EXPECT_FALSE(changes_nothing("configure terminal\ngpon network terminal-vlan \"sixteen-letters\"\n"));
 }
 
