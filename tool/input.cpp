@@ -3,6 +3,7 @@
 #include "tool/files.h"
 #include "tool/json/json.h"
 #include "tool/language/objects.h"
+#include "tool/language/slots.h"
 #include "tool/language/unsaid.h"
 #include "tool/lines.h"
 #include "tool/messages.h"
@@ -97,18 +98,36 @@ void Input::check(std::initializer_list<std::string_view> files) const
 
 std::unique_ptr<GCfg> Input::configuration(const std::string& file)
 {
+    return read(file).configuration;
+}
+
+std::pair<std::unique_ptr<GCfg>, std::unique_ptr<GCfg>> Input::configurations(const std::string& first,
+                                                                              const std::string& second)
+{
+    Read one = read(first);
+    Read other = read(second);
+    if (other.is_text) {
+        take_slots_of(*one.configuration, *other.configuration);
+    } else if (one.is_text) {
+        take_slots_of(*other.configuration, *one.configuration);
+    }
+    return {std::move(one.configuration), std::move(other.configuration)};
+}
+
+Input::Read Input::read(const std::string& file)
+{
     base(); // a mistake in it is reported even when no text needs it
     const std::string name = name_of_input(file);
     const std::string content = read_file(file);
     switch (kind_of(content)) {
     case Kind::document:
-        return from_document(content, name);
+        return {from_document(content, name), false};
     case Kind::record:
-        return from_record(content);
+        return {from_record(content), false};
     case Kind::text:
         break;
     }
-    return from_text(content, name);
+    return {from_text(content, name), true};
 }
 
 std::unique_ptr<GCfg> Input::from_text(std::string_view content, const std::string& name)

@@ -16,6 +16,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace CLI {
 class App;
@@ -39,12 +40,21 @@ class Input {
     /// @throws InputError when it holds no configuration, or a document with a mistake in it
     std::unique_ptr<GCfg> configuration(const std::string& file);
 
+    /// The same of two files. What tells no slots, a text, has those of the other one.
+    std::pair<std::unique_ptr<GCfg>, std::unique_ptr<GCfg>> configurations(const std::string& first,
+                                                                           const std::string& second);
+
     /// The lines that a file holds, valid or not.
     /// @throws FileError  when the file cannot be read
     /// @throws InputError when it holds a record or a document
     static std::string script(const std::string& file);
 
   private:
+    struct Read {
+        std::unique_ptr<GCfg> configuration;
+        bool is_text;
+    };
+    Read read(const std::string& file);
     std::unique_ptr<GCfg> from_text(std::string_view content, const std::string& name);
     const GCfg* base();
 

@@ -137,9 +137,10 @@ TEST_F(Show, WrongSizeIsAnError)
 {
     write("cfg.bin", "short");
     const Outcome outcome = run({"show", "cfg.bin", "-o", "cfg.json"});
-    EXPECT_EQ(outcome.err,
-              "pondiff: cfg.bin: size is 5, but a record has 1821429 bytes and a JSON document begins with '{', and no line "
-              "is a command; the first is: short\n");
+    EXPECT_EQ(
+        outcome.err,
+        "pondiff: cfg.bin: size is 5, but a record has 1821429 bytes and a JSON document begins with '{', and no line "
+        "is a command; the first is: short\n");
     EXPECT_EQ(outcome.status, 2);
     EXPECT_THAT(names(), ElementsAre("cfg.bin"));
 }

@@ -194,8 +194,76 @@ TEST_F(TextInput, RefusedAndAmbiguousLinesAreReported)
     EXPECT_EQ(outcome.status, 1);
 }
 
-// ------------------------------------------------------------------------------------------------- what no command
-// says
+// --------------------------------------------------------------------------------------------------------------- slots
+
+class TextBesideARecord : public TextInput {
+  public:
+    /// The record of the saved text, with its objects in other slots and another host name.
+    std::unique_ptr<GCfg> moved() const
+    {
+        auto record = configuration_in("saved.cli");
+        std::swap(record->pon.network.terminal_vlan[0], record->pon.network.terminal_vlan[5]);
+        std::swap(record->pon.profiles_ont.cross_connect[0], record->pon.profiles_ont.cross_connect[2]);
+        record->pon.profiles_ont.cross_connect[2].outer_vid = -105;
+        record->pon.ont[70].profile_ont_cross_connect[0] = 2;
+        std::swap(record->system.services.ssh.allow[0], record->system.services.ssh.allow[3]);
+        std::memcpy(record->system.network.hostname, "olt-18", 6);
+        return record;
+    }
+    void write_record(const std::string& file, const GCfg& record) const
+    {
+        write(file, {reinterpret_cast<const char*>(&record), sizeof record});
+    }
+    static std::string renaming(const std::string& name)
+    {
+        return "configure terminal\nhostname \"" + name + "\"\nexit\ncommit\n";
+    }
+};
+
+TEST_F(TextBesideARecord, ObjectsOfATextAreInTheSlotsOfTheRecord)
+{
+    write_record("moved.bin", *moved());
+    EXPECT_EQ(run({"diff", "saved.cli", "moved.bin"}).out, renaming("olt-18"));
+    EXPECT_EQ(run({"diff", "moved.bin", "saved.cli"}).out, renaming("olt-17"));
+}
+
+TEST_F(TextBesideARecord, OrderOfATextDoesNotMatter)
+{
+    const std::string a = "profile cross-connect \"a\"\nuser vid 7\nexit\n";
+    const std::string b = "profile cross-connect \"b\"\nuser vid 8\nexit\n";
+    const std::string service = "interface ont 0/1\nservice 3 profile cross-connect \"b\"\nexit\n";
+    write("one.cli", "configure terminal\n" + a + b + service);
+    write("other.cli", "configure terminal\n" + b + a + service);
+    const Outcome outcome = run({"diff", "one.cli", "other.cli"});
+    EXPECT_EQ(outcome.out, "");
+    EXPECT_EQ(outcome.status, 0);
+}
+
+TEST_F(TextBesideARecord, NewObjectIsNoRenamedOne)
+{
+    const auto record = moved();
+    GPonProfileOntCrossConnect& old = record->pon.profiles_ont.cross_connect[0];
+    old.exist = 1;
+    std::memcpy(old.name, "old", 4);
+    write_record("moved.bin", *record);
+    replace_in_saved("profile cross-connect \"iptv\"\n",
+                     "profile cross-connect \"new\"\nuser vid 7\nexit\nprofile cross-connect \"iptv\"\n", "wanted.cli");
+    const std::string script = run({"diff", "moved.bin", "wanted.cli"}).out;
+    EXPECT_THAT(script, HasSubstr("\nprofile cross-connect \"old\"\nname \"\"\n"));
+    EXPECT_THAT(script, HasSubstr("\nprofile cross-connect \"new\"\nuser vid \"7\"\n"));
+}
+
+// What free slots hold, such as numbers of a device that had an object there, is no difference.
+TEST_F(TextBesideARecord, FreeSlotsMeanNothing)
+{
+    const auto record = moved();
+    record->pon.ont[9].ber_interval = 5;
+    record->pon.profiles_ont.cross_connect[7].outer_vid = 3;
+    write_record("moved.bin", *record);
+    EXPECT_EQ(run({"diff", "saved.cli", "moved.bin"}).out, renaming("olt-18"));
+}
+
+// ------------------------------------------------------------------------------------------------ what no command says
 
 TEST_F(TextInput, BaseHasWhatNoCommandSays)
 {
@@ -280,7 +348,7 @@ TEST_F(TextInput, MistakesInTheBaseAreErrors)
                      "else\n");
 }
 
-// ----------------------------------------------------------------------------------------------- what is no such text
+// ------------------------------------------------------------------------------------------------ what is no such text
 
 TEST_F(TextInput, TextWithoutACommandIsAnError)
 {
@@ -304,8 +372,7 @@ TEST_F(TextInput, ZeroBytesAreInNoText)
                  "pondiff: half.bin: size is 21, but a record has 1821429 bytes and a JSON document begins with '{'\n");
 }
 
-// ------------------------------------------------------------------------------------------------------- show --as
-// text
+// ------------------------------------------------------------------------------------------------------ show --as text
 
 TEST_F(TextInput, ConfigurationIsWrittenAsAText)
 {

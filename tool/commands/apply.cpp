@@ -55,7 +55,8 @@ ExitStatus run(Arguments& arguments)
     const std::string script = Input::script(arguments.script);
     LineReport report(name_of_input(arguments.script), *configuration);
     read_script(
-        script, *configuration, [&report](const Line& line) { report.add(line); }, static_cast<std::size_t>(arguments.lines));
+        script, *configuration, [&report](const Line& line) { report.add(line); },
+        static_cast<std::size_t>(arguments.lines));
     report.print();
     write_file(arguments.output, write_json(*configuration, false));
     return report.any_refused() ? ExitStatus::refused : ExitStatus::success;

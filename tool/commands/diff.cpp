@@ -144,8 +144,7 @@ void warn_of_silent_fields(std::size_t count)
 
 ExitStatus run(const Area& area, Arguments& arguments)
 {
-    const std::unique_ptr<GCfg> orig = arguments.input.configuration(arguments.orig);
-    const std::unique_ptr<GCfg> cfg = arguments.input.configuration(arguments.cfg);
+    const auto [orig, cfg] = arguments.input.configurations(arguments.orig, arguments.cfg);
     if (report_unsafe_texts(area, *orig, *cfg, arguments) && !arguments.force)
         throw Error("no script is written: it would not do what it shows; --force writes it");
     if (warn_of_findings(area, *orig, *cfg, arguments) && arguments.strict)
