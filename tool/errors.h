@@ -16,9 +16,11 @@ struct UsageError : Error {
     using Error::Error;
 };
 
-/// A file that could not be read or written: its name and the system's reason.
+/// A file that could not be read or written: its name and the reason.
 struct FileError : Error {
-    FileError(const std::string& file, int error);
+    FileError(const std::string& file, const std::string& reason);
+    /// @param number  the system's number of the reason
+    FileError(const std::string& file, int number);
 };
 
 /// A mistake in an input, with the file and the place: "cfg.json: pon.ont.600: index 600, but ...".

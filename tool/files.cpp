@@ -1,16 +1,21 @@
 #include "tool/files.h"
 
+#include "tool/descriptor.h"
+#include "tool/destination.h"
+#include "tool/replacement.h"
+
+#include <algorithm>
 #include <cerrno>
-#include <climits>
-#include <csignal>
+#include <cstdint>
 #include <cstdlib>
 #include <cstring>
+#include <ctime>
 #include <fcntl.h>
-#include <filesystem>
 #include <fmt/format.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
+#include <vector>
 
 namespace pondiff::tool {
 
@@ -19,70 +24,19 @@ namespace {
 /// Far above the largest document that a configuration makes.
 constexpr std::size_t largest_file = std::size_t{64} << 20;
 
-class Descriptor {
-  public:
-    explicit Descriptor(int number) : number_(number) {}
-    ~Descriptor()
-    {
-        if (number_ >= 0)
-            ::close(number_);
-    }
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
+/// The regular files that have been read. What is written must not take the place of any of them.
+std::vector<std::pair<dev_t, ino_t>>& files_read()
+{
+    static std::vector<std::pair<dev_t, ino_t>> files;
+    return files;
+}
 
-    int number() const { return number_; }
-    /// Closes the file where the outcome matters: some file systems report only here that the disk is full.
-    bool close() { return ::close(std::exchange(number_, -1)) == 0; }
-
-  private:
-    int number_;
-};
-
-/// Holds signals back, so that none ends the program while a temporary file is about.
-class SignalsHeld {
-  public:
-    SignalsHeld()
-    {
-        sigset_t all;
-        sigfillset(&all);
-        sigprocmask(SIG_SETMASK, &all, &before_);
-    }
-    ~SignalsHeld() { sigprocmask(SIG_SETMASK, &before_, nullptr); }
-    SignalsHeld(const SignalsHeld&) = delete;
-    SignalsHeld& operator=(const SignalsHeld&) = delete;
-
-  private:
-    sigset_t before_;
-};
-
-/// A new, empty file in the folder of another, gone again unless it takes that one's place.
-class TemporaryFile {
-  public:
-    explicit TemporaryFile(const std::filesystem::path& neighbour)
-        : name_((neighbour.parent_path() / ".pondiff-XXXXXX").string()), file_(mkostemp(name_.data(), O_CLOEXEC))
-    {
-    }
-    ~TemporaryFile()
-    {
-        if (file_.number() >= 0)
-            unlink(name_.c_str());
-    }
-    TemporaryFile(const TemporaryFile&) = delete;
-    TemporaryFile& operator=(const TemporaryFile&) = delete;
-
-    int descriptor() const { return file_.number(); }
-    bool take_place_of(const std::filesystem::path& target)
-    {
-        if (fsync(file_.number()) != 0 || rename(name_.c_str(), target.c_str()) != 0)
-            return false;
-        file_.close();
-        return true;
-    }
-
-  private:
-    std::string name_;
-    Descriptor file_;
-};
+bool is_input(const struct stat& file)
+{
+    const auto& inputs = files_read();
+    return S_ISREG(file.st_mode) &&
+           std::find(inputs.begin(), inputs.end(), std::make_pair(file.st_dev, file.st_ino)) != inputs.end();
+}
 
 std::string name_in_messages(const std::string& file, const char* standard_stream_name)
 {
@@ -113,79 +67,88 @@ std::string read_all(int descriptor, const std::string& name)
     return content;
 }
 
-bool write_all(int descriptor, std::string_view content)
+std::int64_t nanoseconds(const timespec& time)
 {
-    while (!content.empty()) {
-        const ssize_t count = write(descriptor, content.data(), content.size());
-        if (count < 0 && errno == EINTR)
-            continue;
-        if (count < 0)
-            return false;
-        content.remove_prefix(static_cast<std::size_t>(count));
+    return std::int64_t{1'000'000'000} * time.tv_sec + time.tv_nsec;
+}
+
+/// The state of a file in which nothing has changed for longer than a tick of the clock that stamps changes: whatever
+/// changes now changes the stamp. Waits for it, though not for long when the file changes all the time.
+struct stat settled_state(int descriptor, const std::string& name)
+{
+    constexpr std::int64_t tick = 20'000'000;
+    struct stat state = {};
+    for (int tries = 0; tries < 50; ++tries) {
+        timespec now = {};
+        if (fstat(descriptor, &state) != 0)
+            throw FileError(name, errno);
+        clock_gettime(CLOCK_REALTIME, &now);
+        const std::int64_t age = nanoseconds(now) - nanoseconds(state.st_ctim);
+        if (!S_ISREG(state.st_mode) || age < 0 || age >= tick)
+            break;
+        const timespec rest{0, static_cast<long>(tick - age)};
+        nanosleep(&rest, nullptr);
     }
-    return true;
+    return state;
 }
 
-void write_standard_output(std::string_view content, const std::string& name)
+bool same_content(const struct stat& before, const struct stat& after)
 {
-    if (!write_all(STDOUT_FILENO, content))
+    return before.st_size == after.st_size && nanoseconds(before.st_mtim) == nanoseconds(after.st_mtim) &&
+           nanoseconds(before.st_ctim) == nanoseconds(after.st_ctim);
+}
+
+/// Reads a file that nobody changes meanwhile.
+std::string read_unchanged(int descriptor, const std::string& name)
+{
+    const struct stat before = settled_state(descriptor, name);
+    std::string content = read_all(descriptor, name);
+    struct stat after = {};
+    if (fstat(descriptor, &after) != 0)
         throw FileError(name, errno);
-    Descriptor copy{dup(STDOUT_FILENO)};
-    if (copy.number() < 0 || !copy.close())
+    if (!S_ISREG(after.st_mode))
+        return content;
+    if (!same_content(before, after))
+        throw FileError(name, "changed while it was read; try again");
+    files_read().emplace_back(after.st_dev, after.st_ino);
+    return content;
+}
+
+void check_is_no_input(const struct stat& file, const std::string& name)
+{
+    if (is_input(file))
+        throw FileError(name, "is an input as well; choose another file for the output");
+}
+
+void write_to_descriptor(int descriptor, std::string_view content, const std::string& name)
+{
+    if (content.empty())
+        return;
+    struct stat status = {};
+    Descriptor copy{dup(descriptor)};
+    if (copy.number() < 0 || fstat(copy.number(), &status) != 0)
+        throw FileError(name, errno);
+    check_is_no_input(status, name);
+    if (!write_all(copy.number(), content) || !copy.close())
         throw FileError(name, errno);
 }
 
-void write_in_place(const std::string& file, std::string_view content, const std::string& name)
+/// @param existing  the file that is replaced, or a closed descriptor where there is none
+void replace_file(const std::filesystem::path& file, const Descriptor& existing, const struct stat& status,
+                  std::string_view content, const std::string& name)
 {
-    Descriptor opened{open(file.c_str(), O_WRONLY | O_CLOEXEC | O_NOCTTY)};
-    if (opened.number() < 0 || !write_all(opened.number(), content) || !opened.close())
+    Replacement replacement{file};
+    if (replacement.descriptor() < 0)
         throw FileError(name, errno);
-}
-
-/// Where a chain of symbolic links ends, be there a file or not.
-std::filesystem::path link_target(std::filesystem::path file)
-{
-    // The chain is finite: whoever asks has seen that the system can follow it, or that its end does not exist.
-    // Asked of the system: on processors of 32 bits the C++ library takes a link of the far future for none.
-    std::string target(PATH_MAX, '\0');
-    while (true) {
-        const ssize_t length = readlink(file.c_str(), target.data(), target.size());
-        if (length < 0)
-            return file;
-        file = file.parent_path() / target.substr(0, static_cast<std::size_t>(length));
-    }
-}
-
-bool take_permissions(int descriptor, const struct stat* existing)
-{
-    constexpr mode_t permissions = 0777;
-    if (!existing) {
-        const mode_t mask = umask(0);
-        umask(mask);
-        return fchmod(descriptor, 0666 & ~mask) == 0;
-    }
-    // Only a privileged user can give a file to its former owner; the mode is kept in any case.
-    [[maybe_unused]] const bool owner_kept = fchown(descriptor, existing->st_uid, existing->st_gid) == 0;
-    return fchmod(descriptor, existing->st_mode & permissions) == 0;
-}
-
-void replace_file(const std::string& file, const struct stat* existing, std::string_view content,
-                  const std::string& name)
-{
-    const std::filesystem::path target = link_target(file);
-    const SignalsHeld held;
-    TemporaryFile temporary{target};
-    if (temporary.descriptor() < 0 || !write_all(temporary.descriptor(), content) ||
-        !take_permissions(temporary.descriptor(), existing) || !temporary.take_place_of(target))
+    const bool exists = existing.number() >= 0;
+    if (exists && !replacement.take_access_of(existing.number(), status))
+        throw FileError(name, fmt::format("its owner, group and permissions cannot be kept ({}); choose another file",
+                                          std::strerror(errno)));
+    if (!write_all(replacement.descriptor(), content) || !replacement.take_place(exists))
         throw FileError(name, errno);
 }
 
 } // namespace
-
-FileError::FileError(const std::string& file, int error)
-    : Error(fmt::format("{}: {}", file, std::strerror(error)))
-{
-}
 
 std::string name_of_input(const std::string& file)
 {
@@ -196,29 +159,29 @@ std::string read_file(const std::string& file)
 {
     const std::string name = name_of_input(file);
     if (file == standard_stream)
-        return read_all(STDIN_FILENO, name);
+        return read_unchanged(STDIN_FILENO, name);
     const Descriptor opened{open(file.c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY)};
     if (opened.number() < 0)
         throw FileError(name, errno);
-    return read_all(opened.number(), name);
+    return read_unchanged(opened.number(), name);
 }
 
 void write_file(const std::string& file, std::string_view content)
 {
     const std::string name = name_in_messages(file, "standard output");
-    if (file == standard_stream)
-        return write_standard_output(content, name);
-    struct stat existing = {};
-    if (stat(file.c_str(), &existing) != 0) {
-        if (errno != ENOENT)
-            throw FileError(name, errno);
-        return replace_file(file, nullptr, content, name);
-    }
-    if (!S_ISREG(existing.st_mode))
-        return write_in_place(file, content, name);
-    if (access(file.c_str(), W_OK) != 0)
+    const Destination destination =
+        file == standard_stream ? Destination{"", true, STDOUT_FILENO} : destination_of(file);
+    if (destination.descriptor)
+        return write_to_descriptor(*destination.descriptor, content, name);
+    Descriptor existing{open(file.c_str(), O_WRONLY | O_APPEND | O_CLOEXEC | O_NOCTTY)};
+    struct stat status = {};
+    if (existing.number() < 0 ? errno != ENOENT : fstat(existing.number(), &status) != 0)
         throw FileError(name, errno);
-    replace_file(file, &existing, content, name);
+    check_is_no_input(status, name);
+    if (existing.number() < 0 || (S_ISREG(status.st_mode) && !destination.of_a_process))
+        return replace_file(destination.file, existing, status, content, name);
+    if (!write_all(existing.number(), content) || !existing.close())
+        throw FileError(name, errno);
 }
 
 } // namespace pondiff::tool

@@ -42,6 +42,13 @@ Every command reads it in any of three forms, which it knows by the content:
 Where a file is named, - stands for standard input or output; a file of that
 name is ./-
 
+An output file is replaced as a whole or, after an error, left as it was. It
+keeps its owner, group, mode and ACL; where that is not possible, nothing is
+written. A new one is for its owner alone, since configurations and scripts hold
+passwords. Where a symbolic link is named, the file that it points to is
+replaced. Devices, pipes and open files, such as /dev/stdout, are written to. An
+output file must not be an input as well.
+
 Exit status:
   0  success; of "pondiff diff": there is nothing to do; of "pondiff check":
      nothing was found; of "pondiff apply": every line was taken

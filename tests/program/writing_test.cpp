@@ -1,49 +1,10 @@
-#include "tests/support/program.h"
+#include "tests/support/writing.h"
 
 #include <gmock/gmock.h>
 
 using ::testing::ElementsAre;
 
 namespace {
-
-constexpr char script[] = "configure terminal\n"
-                          "hostname \"olt-17\"\n"
-                          "exit\n"
-                          "commit\n";
-
-class Writing : public ProgramTest {
-  public:
-    Writing()
-    {
-        write("orig.json", "{}");
-        write("cfg.json", R"({"system": {"network": {"hostname": "olt-17"}}})");
-    }
-
-    Outcome write_script_to(const std::string& file, const Surroundings& surroundings = {})
-    {
-        return run({"diff", "orig.json", "cfg.json", "-o", file}, surroundings);
-    }
-
-    static Surroundings as_somebody_else()
-    {
-        Surroundings surroundings;
-        surroundings.unprivileged = true;
-        return surroundings;
-    }
-
-    bool reachable_by_others() const
-    {
-        std::filesystem::permissions(path("."), std::filesystem::perms(0755));
-        return run({"--version"}, as_somebody_else()).status == 0;
-    }
-
-    static void expect_error(const Outcome& outcome, const std::string& message)
-    {
-        EXPECT_EQ(outcome.out, "");
-        EXPECT_EQ(outcome.err, message);
-        EXPECT_EQ(outcome.status, 2);
-    }
-};
 
 TEST_F(Writing, ScriptGoesToTheFileInsteadOfStandardOutput)
 {
@@ -55,12 +16,20 @@ TEST_F(Writing, ScriptGoesToTheFileInsteadOfStandardOutput)
     EXPECT_THAT(names(), ElementsAre("cfg.json", "orig.json", "script"));
 }
 
-TEST_F(Writing, NewFileHasTheModeThatTheMaskLeaves)
+// Configurations and scripts hold passwords.
+TEST_F(Writing, NewFileIsForItsOwnerAlone)
 {
-    Surroundings surroundings;
-    surroundings.mask = 027;
-    write_script_to("script", surroundings);
-    EXPECT_EQ(mode("script"), 0640U);
+    for (const mode_t mask : {0U, 022U, 077U}) {
+        Surroundings surroundings;
+        surroundings.mask = mask;
+        EXPECT_EQ(write_script_to("script", surroundings).status, 1);
+        EXPECT_EQ(mode("script"), 0600U);
+        std::filesystem::remove(path("script"));
+    }
+    EXPECT_EQ(run({"pack", "cfg.json", "-o", "cfg.bin"}).status, 0);
+    EXPECT_EQ(mode("cfg.bin"), 0600U);
+    EXPECT_EQ(run({"show", "cfg.bin", "-o", "shown.json"}).status, 0);
+    EXPECT_EQ(mode("shown.json"), 0600U);
 }
 
 TEST_F(Writing, ExistingFileIsReplacedAsAWholeAndKeepsItsMode)
@@ -132,14 +101,29 @@ TEST_F(Writing, FileOfTheFarFutureIsReplaced)
     EXPECT_EQ(read("target"), script);
 }
 
-TEST_F(Writing, NothingToDoLeavesTheFileAlone)
+// As with the redirection of a shell: no old script is left that somebody could take for the new one.
+TEST_F(Writing, NothingToDoMakesTheFileEmpty)
 {
     EXPECT_EQ(run({"diff", "orig.json", "orig.json", "-o", "script"}).status, 0);
-    EXPECT_FALSE(std::filesystem::exists(path("script")));
+    EXPECT_EQ(read("script"), "");
+    EXPECT_EQ(mode("script"), 0600U);
 
+    for (const Arguments& more : {Arguments{"-o", "script"}, Arguments{"--verbatim", "-o", "script"}}) {
+        write("script", "old\n");
+        std::filesystem::permissions(path("script"), std::filesystem::perms(0640));
+        Arguments arguments{"diff", "orig.json", "orig.json"};
+        arguments.insert(arguments.end(), more.begin(), more.end());
+        EXPECT_EQ(run(arguments).status, 0);
+        EXPECT_EQ(read("script"), "");
+        EXPECT_EQ(mode("script"), 0640U);
+    }
+}
+
+TEST_F(Writing, ErrorLeavesTheFileAlone)
+{
     write("script", "old\n");
-    EXPECT_EQ(run({"diff", "orig.json", "orig.json", "-o", "script"}).status, 0);
-    EXPECT_EQ(run({"diff", "orig.json", "orig.json", "--verbatim", "-o", "script"}).status, 0);
+    write("cfg.json", R"({"system": {"network": {"hostname": "a\"b"}}})");
+    EXPECT_EQ(run({"diff", "orig.json", "cfg.json", "--strict", "-o", "script"}).status, 2);
     EXPECT_EQ(read("script"), "old\n");
 }
 
@@ -151,12 +135,6 @@ TEST_F(Writing, DashIsStandardOutput)
     EXPECT_THAT(names(), ElementsAre("cfg.json", "orig.json"));
 }
 
-TEST_F(Writing, FileMayBeOneThatWasRead)
-{
-    EXPECT_EQ(run({"pack", "cfg.json", "-o", "cfg.json"}).status, 0);
-    EXPECT_EQ(run({"diff", "orig.json", "cfg.json"}).out, script);
-}
-
 TEST_F(Writing, FileThatCannotBeMadeIsNamedWithTheReason)
 {
     expect_error(write_script_to("absent/script"), "pondiff: absent/script: No such file or directory\n");
@@ -164,7 +142,7 @@ TEST_F(Writing, FileThatCannotBeMadeIsNamedWithTheReason)
     expect_error(write_script_to("."), "pondiff: .: Is a directory\n");
     expect_error(write_script_to(""), "pondiff: '': No such file or directory\n");
     expect_error(write_script_to(std::string(300, 'x')),
-                   "pondiff: " + std::string(300, 'x') + ": File name too long\n");
+                 "pondiff: " + std::string(300, 'x') + ": File name too long\n");
     EXPECT_THAT(names(), ElementsAre("cfg.json", "orig.json"));
 }
 
@@ -204,7 +182,7 @@ TEST_F(Writing, DiskThatFailsLeavesTheOldFileAndNothingElse)
 {
     write("cfg.bin", "old\n");
     expect_error(run({"pack", "cfg.json", "-o", "cfg.bin"}, with_other_library("TEST_DISK_FAILS=1")),
-                   "pondiff: cfg.bin: Input/output error\n");
+                 "pondiff: cfg.bin: Input/output error\n");
     EXPECT_EQ(read("cfg.bin"), "old\n");
     EXPECT_THAT(names(), ElementsAre("cfg.bin", "cfg.json", "orig.json"));
 }
@@ -227,6 +205,36 @@ TEST_F(Writing, FileIsOldUntilTheNewContentIsOnTheDisk)
         run({"pack", "cfg.json", "-o", "cfg.bin"}, with_other_library("TEST_SIGNAL=" + std::to_string(SIGKILL)));
     EXPECT_EQ(outcome.status, -SIGKILL);
     EXPECT_EQ(read("cfg.bin"), "old\n");
+}
+
+TEST_F(Writing, ProgramThatIsKilledLeavesNoTemporaryFile)
+{
+    const int unnamed = open(path(".").c_str(), O_TMPFILE | O_WRONLY | O_CLOEXEC, 0600);
+    if (unnamed < 0)
+        GTEST_SKIP() << "the file system has no files without a name";
+    close(unnamed);
+    for (const char* const file : {"new.bin", "cfg.json"}) {
+        const Outcome outcome =
+            run({"pack", "orig.json", "-o", file}, with_other_library("TEST_SIGNAL=" + std::to_string(SIGKILL)));
+        EXPECT_EQ(outcome.status, -SIGKILL);
+        EXPECT_THAT(names(), ElementsAre("cfg.json", "orig.json"));
+    }
+}
+
+// The same where a file has a name from the beginning.
+TEST_F(Writing, FileSystemWithoutFilesWithoutANameServesToo)
+{
+    const Surroundings named = with_other_library("TEST_NO_UNNAMED_FILES=1");
+    for (const mode_t expected : {0600U, 0644U}) { // at first that of a new file
+        EXPECT_EQ(run({"show", "cfg.json", "-o", "copy.json"}, named).err, "");
+        EXPECT_EQ(mode("copy.json"), expected);
+        EXPECT_EQ(run({"show", "cfg.json"}).out, read("copy.json"));
+        std::filesystem::permissions(path("copy.json"), std::filesystem::perms(0644));
+    }
+    Surroundings surroundings = named;
+    surroundings.largest_file = 100000;
+    expect_error(run({"pack", "cfg.json", "-o", "cfg.bin"}, surroundings), "pondiff: cfg.bin: File too large\n");
+    EXPECT_THAT(names(), ElementsAre("cfg.json", "copy.json", "orig.json"));
 }
 
 TEST_F(Writing, DeviceIsWrittenTo)
@@ -279,7 +287,7 @@ TEST_F(Writing, StandardOutputThatIsClosed)
     Surroundings surroundings;
     surroundings.closed = {STDOUT_FILENO};
     expect_error(run({"diff", "orig.json", "cfg.json"}, surroundings),
-                   "pondiff: standard output: Bad file descriptor\n");
+                 "pondiff: standard output: Bad file descriptor\n");
     EXPECT_EQ(write_script_to("script", surroundings).status, 1);
     EXPECT_EQ(read("script"), script);
     // With nothing to print nothing is missing.

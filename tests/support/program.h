@@ -11,8 +11,10 @@
 #include <fcntl.h>
 #include <filesystem>
 #include <fstream>
+#include <grp.h>
 #include <gtest/gtest.h>
 #include <iterator>
+#include <map>
 #include <string>
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -37,16 +39,18 @@ struct Surroundings {
     std::vector<int> closed{};              ///< standard descriptors that are closed
     std::vector<std::string> environment{}; ///< "NAME=value" each
     bool unprivileged = false;              ///< the super-user runs it as somebody else
+    std::vector<gid_t> groups{};            ///< that somebody else belongs to, besides their own
+    std::map<int, int> descriptors{};       ///< of the program, and of the test, whose files they stand for
     mode_t mask = 022;                      ///< permissions that new files do not get
     rlim_t largest_file = RLIM_INFINITY;
 };
 
-/// The other library stands in front of the real ones; it reads `variable`, "NAME=value".
-inline Surroundings with_other_library(const std::string& variable)
+/// A library stands in front of the real ones; it reads `variable`, "NAME=value".
+inline Surroundings with_other_library(const std::string& variable, const std::string& library = PONDIFF_OTHER_LIBRARY)
 {
     const char* const options = std::getenv("ASAN_OPTIONS");
     Surroundings surroundings;
-    surroundings.environment = {variable, "LD_PRELOAD=" PONDIFF_OTHER_LIBRARY,
+    surroundings.environment = {variable, "LD_PRELOAD=" + library,
                                 "ASAN_OPTIONS=" + (options ? options + std::string(":") : "") +
                                     "verify_asan_link_order=0"};
     return surroundings;
@@ -113,9 +117,9 @@ class ProgramTest : public ::testing::Test {
         return {WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status), content_of(out), content_of(err)};
     }
 
-  private:
     static constexpr uid_t nobody = 65534;
 
+  private:
     [[noreturn]] void become_program(const Arguments& arguments, const Surroundings& surroundings, int out,
                                      int err) const
     {
@@ -132,8 +136,13 @@ class ProgramTest : public ::testing::Test {
         if (out < 0 || dup2(out, STDOUT_FILENO) < 0 || dup2(err, STDERR_FILENO) < 0 || chdir(folder_.c_str()) != 0 ||
             setrlimit(RLIMIT_FSIZE, &limit) != 0)
             std::abort();
-        if (surroundings.unprivileged && geteuid() == 0 && (setgid(nobody) != 0 || setuid(nobody) != 0))
+        if (surroundings.unprivileged && geteuid() == 0 &&
+            (setgroups(surroundings.groups.size(), surroundings.groups.data()) != 0 || setgid(nobody) != 0 ||
+             setuid(nobody) != 0))
             std::abort();
+        for (const auto& [number, file] : surroundings.descriptors)
+            if (dup2(file, number) < 0)
+                std::abort();
         for (const int descriptor : surroundings.closed)
             close(descriptor);
         umask(surroundings.mask);

@@ -29,8 +29,6 @@ for several values is taken, but sets nothing; a message names it, too.
 When a device has stopped within a script, --lines gives what it holds, and
 "pondiff diff" the commands that are still to be done: see the examples.
 
-With -o, FILE is replaced as a whole or, after an error, left as it was.
-
 Exit status:
   0  every line was taken
   1  lines were refused; the document was written

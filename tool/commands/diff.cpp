@@ -53,9 +53,8 @@ The script of an area begins at the top level. For most areas it ends there with
 pon and terminal-vlans end in the view of their last command, without "exit" and
 "commit".
 
-With -o, FILE is replaced as a whole or, after an error, left as it was. It
-keeps its mode; a symbolic link stays and the file that it points to is
-replaced. When nothing is to be printed, FILE is not touched.
+With -o, FILE becomes empty when nothing is to be printed, as with the
+redirection of a shell.
 
 Exit status:
   0  there is nothing to do
@@ -151,8 +150,7 @@ ExitStatus run(const Area& area, Arguments& arguments)
         throw Error("no script is written: --strict");
     const std::string script = script_of(area, *orig, *cfg, arguments);
     const bool nothing_to_do = changes_nothing(script, *orig);
-    if (!nothing_to_do || (arguments.verbatim && !script.empty()))
-        write_file(arguments.output, script);
+    write_file(arguments.output, nothing_to_do && !arguments.verbatim ? "" : script);
     if (!nothing_to_do)
         return ExitStatus::script_written;
     // With the common records alone, what differs elsewhere has no command in this scope either.

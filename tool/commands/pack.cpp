@@ -17,8 +17,6 @@ text of commands. What a document leaves out is zero. "pondiff show" is the way
 back; a record that was shown as a document and packed again is the same, byte
 for byte.
 
-RECORD is replaced as a whole or, after an error, left as it was.
-
 Exit status:
   0  the record was written
   2  error; see standard error

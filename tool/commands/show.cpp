@@ -31,8 +31,6 @@ reads each of them.
 What is shown may have any form: a document comes out as the same configuration
 in the usual order and notation.
 
-With -o, FILE is replaced as a whole or, after an error, left as it was.
-
 Exit status:
   0  the configuration was written
   2  error; see standard error
