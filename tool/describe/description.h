@@ -126,15 +126,17 @@ void set_number(const Field& field, unsigned char* at, std::int64_t number);
 /// Where a field or an element stands: "pon.ont.70.serial".
 class Path {
   public:
+    struct Step {
+        const Field* field;
+        std::size_t index; ///< of the element, 0 where the field is no array
+    };
+
     void push(const Field& field, std::size_t index) { steps_.push_back({&field, index}); }
     void pop() { steps_.pop_back(); }
     std::string text() const;
+    const std::vector<Step>& steps() const { return steps_; }
 
   private:
-    struct Step {
-        const Field* field;
-        std::size_t index;
-    };
     std::vector<Step> steps_;
 };
 

@@ -84,6 +84,14 @@ void expand(const std::string& form, std::vector<std::string>& variants)
     expand(before + "{" + member + "=0}" + behind, variants);
 }
 
+/// Whether a command has a place for the member.
+bool shows(const std::string& form, std::string_view member)
+{
+    const std::string name(member);
+    return form.find('<' + name + '>') != form.npos || form.find('{' + name + '=') != form.npos ||
+           form.find(':' + name + ']') != form.npos;
+}
+
 void replace_all(std::string& text, std::string_view needle, std::string_view replacement)
 {
     for (std::size_t at = 0; (at = text.find(needle, at)) != text.npos; at += replacement.size()) {
@@ -94,6 +102,23 @@ void replace_all(std::string& text, std::string_view needle, std::string_view re
 constexpr std::uint64_t key_of(std::uint32_t node, std::uint32_t hash)
 {
     return std::uint64_t{node} << 32U | hash;
+}
+
+/// Whether the CLI has no word for some elements of an array. In a script, nothing tells them: two blanks follow one
+/// another.
+bool has_wordless(const Field& array)
+{
+    constexpr int values_of_a_byte = 256;
+    const bool by_key = array.element.told == Element::Told::by_key;
+    const Vocabulary words = by_key ? array.record->key_member->syntax.vocabulary : array.element.vocabulary;
+    const int values = by_key ? values_of_a_byte : array.count;
+    for (int value = 0; words != nullptr && value < values; ++value) {
+        const char* const word = words(value);
+        if (word == nullptr || *word == '\0') {
+            return true;
+        }
+    }
+    return false;
 }
 
 bool stands_for_terminal_vlan(const Field& field)
@@ -215,15 +240,37 @@ class Index::Builder {
             fail(form, "no command reaches into an array of an array");
         }
         replace_all(form, "<*>", context.lead != nullptr ? context.lead : "");
-        std::vector<std::string> variants;
         for (std::size_t at = 0; at != form.npos;) {
             const std::size_t bar = form.find(" | ", at);
-            expand(form.substr(at, bar == form.npos ? form.npos : bar - at), variants);
+            add_command(form.substr(at, bar == form.npos ? form.npos : bar - at), record, context, pattern);
             at = bar == form.npos ? form.npos : bar + 3;
         }
-        for (const std::string& variant : variants) {
-            insert(context.view != nullptr ? *context.view : index_.top(), context, &record, variant, pattern);
+    }
+
+    void add_command(const std::string& form, const Record& record, const Context& context, Pattern pattern)
+    {
+        if (pattern.does == Pattern::Does::set && !shows(form, pattern.field->name)) {
+            const Field& field = *pattern.field;
+            pattern.targets.push_back(
+                {&field, offset_of(field, context), -1, pattern.off ? field.syntax.off_value : 1});
         }
+        std::vector<std::string> variants;
+        expand(form, variants);
+        for (std::string& variant : variants) {
+            insert(*context.view, context, &record, variant, pattern);
+            const std::size_t element = variant.find("<#>");
+            if (element != variant.npos && context.array != nullptr && has_wordless(*context.array)) {
+                Pattern of_any_element;
+                of_any_element.does = Pattern::Does::nothing;
+                insert(*context.view, context, &record, variant.erase(element, 3), of_any_element);
+            }
+        }
+    }
+
+    /// From the array's element, or from the view's object.
+    static std::uint32_t offset_of(const Field& field, const Context& context)
+    {
+        return &field == context.array ? 0 : context.offset + field.offset;
     }
 
     /// Adds one command to a view.
@@ -274,7 +321,6 @@ class Index::Builder {
                 break;
             }
         }
-        complete(pattern, record, context);
         end(node, pattern, form);
         const std::size_t value = form.rfind('<');
         if (!pattern.terminal_vlan && pattern.field != nullptr && stands_for_terminal_vlan(*pattern.field)) {
@@ -301,8 +347,7 @@ class Index::Builder {
             pattern.counted_from = name == "#1" ? 1 : 0;
         } else {
             const Field& field = member(*record, name, form);
-            const bool own_element = &field == context.array;
-            pattern.targets.push_back({&field, own_element ? 0 : context.offset + field.offset, word});
+            pattern.targets.push_back({&field, offset_of(field, context), word});
         }
     }
 
@@ -316,20 +361,7 @@ class Index::Builder {
         const Field& field = member(record, word.substr(1, equals - 1), form);
         std::int64_t number = 0;
         std::from_chars(word.data() + equals + 1, word.data() + word.size() - 1, number);
-        pattern.targets.push_back({&field, context.offset + field.offset, -1, number});
-    }
-
-    /// The field whose command it is, where the command does not show its value.
-    static void complete(Pattern& pattern, const Record* record, const Context& context)
-    {
-        const bool shown = std::any_of(pattern.targets.begin(), pattern.targets.end(),
-                                       [&](const Target& target) { return target.field == pattern.field; });
-        if (record == nullptr || pattern.does != Pattern::Does::set || shown) {
-            return;
-        }
-        const Field& field = *pattern.field;
-        const std::uint32_t offset = &field == context.array ? 0 : context.offset + field.offset;
-        pattern.targets.push_back({&field, offset, -1, pattern.off ? field.syntax.off_value : 1});
+        pattern.targets.push_back({&field, offset_of(field, context), -1, number});
     }
 
     static const Field& member(const Record& record, std::string_view name, const std::string& form)

@@ -38,7 +38,6 @@ class KnownWords {
     explicit KnownWords(const Field& field)
     {
         const Syntax& syntax = field.syntax;
-        const char* const type = syntax.registry != nullptr ? syntax.registry : field.enumeration;
         // The words of every enumeration stand for small values; the platform does not say which.
         constexpr std::int64_t values = 1024;
         if (syntax.vocabulary == nullptr) {
@@ -47,17 +46,14 @@ class KnownWords {
             otherwise_ = syntax.otherwise;
         }
         for (std::int64_t number = 0; number < std::min(values, largest(field) + 1); ++number) {
-            const auto asked = static_cast<int>(number);
-            const char* const word =
-                syntax.vocabulary != nullptr ? syntax.vocabulary(asked) : gpon_enum_find_name_by_type(type, asked);
-            add(word != nullptr ? word : "", number, syntax.vocabulary != nullptr);
+            add(word_of(field, number), number, syntax.vocabulary != nullptr);
         }
     }
 
     Said read(std::string_view word) const
     {
         const auto known = numbers_.find(word);
-        if (known == numbers_.end() && word != otherwise_ && !word.empty()) {
+        if (known == numbers_.end() && word != otherwise_ && !(word.empty() && has_wordless_)) {
             return refused("no value has this word");
         }
         if (known != numbers_.end() && known->second != ambiguous) {
@@ -72,6 +68,7 @@ class KnownWords {
     /// @param first_is_meant  whether what several numbers share is the word of the first and, besides, of unknown ones
     void add(std::string_view word, std::int64_t number, bool first_is_meant)
     {
+        has_wordless_ = has_wordless_ || word.empty();
         if (word.empty() || word == otherwise_) {
             return;
         }
@@ -83,6 +80,7 @@ class KnownWords {
 
     std::unordered_map<std::string_view, std::int64_t> numbers_;
     std::string_view otherwise_;
+    bool has_wordless_ = false;
 };
 
 Said read_number(const Field& field, std::string_view digits)
@@ -215,6 +213,22 @@ void spell_marker(unsigned char* text, std::size_t size)
 
 } // namespace
 
+bool has_words(const Field& field)
+{
+    return field.syntax.vocabulary != nullptr || field.syntax.registry != nullptr || field.form == Form::enumeration;
+}
+
+std::string_view word_of(const Field& field, std::int64_t number)
+{
+    const Syntax& syntax = field.syntax;
+    const auto asked = static_cast<int>(number);
+    const char* const word =
+        syntax.vocabulary != nullptr
+            ? syntax.vocabulary(asked)
+            : gpon_enum_find_name_by_type(syntax.registry != nullptr ? syntax.registry : field.enumeration, asked);
+    return word != nullptr ? word : "";
+}
+
 bool read_decimal(std::string_view digits, std::int64_t least, std::int64_t greatest, std::int64_t& number)
 {
     const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
@@ -238,7 +252,7 @@ Said read_value(const Field& field, const Token& token, const GCfg& configuratio
     if (syntax.special != nullptr && token.text == syntax.special) {
         return value(syntax.special_value);
     }
-    if (syntax.vocabulary != nullptr || syntax.registry != nullptr) {
+    if (has_words(field)) {
         return read_word(field, token.text);
     }
     if (field.layout == Layout::ended_list) {
@@ -250,8 +264,6 @@ Said read_value(const Field& field, const Token& token, const GCfg& configuratio
         return read_number(field, token.text);
     case Form::hexadecimal:
         return read_hexadecimal(field, token.text);
-    case Form::enumeration:
-        return read_word(field, token.text);
     case Form::reference:
         return field.reference == Reference::terminal_vlan_id || field.reference == Reference::terminal_vlan_priority
                    ? read_number(field, token.text)
@@ -272,6 +284,7 @@ Said read_value(const Field& field, const Token& token, const GCfg& configuratio
             token.text,
             [&field](std::string_view text, unsigned char* out) { return parse_hex(text, out, field.width); },
             "expected 26 hexadecimal digits");
+    case Form::enumeration:
     case Form::record:
         break;
     }

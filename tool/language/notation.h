@@ -36,6 +36,10 @@ Said read_value(const Field& field, const Token& token, const GCfg& configuratio
 /// The same for a number that stands for a terminal VLAN, told by the VLAN's name.
 Said read_terminal_vlan(const Field& field, const Token& token, const GCfg& configuration);
 
+/// Whether the field's values are words, and the word of one; empty where it has none.
+bool has_words(const Field& field);
+std::string_view word_of(const Field& field, std::int64_t number);
+
 /// The value for which a vocabulary has a word, among those that may occur.
 Said read_word(const Field& field, std::string_view word);
 

@@ -192,7 +192,8 @@ std::int64_t number_referring(const Field& field, std::size_t slot)
     }
 }
 
-void forget(GCfg& configuration, const Field& array, std::size_t slot)
+void forget(GCfg& configuration, const Field& array, std::size_t slot,
+            const std::function<void(const Field& reference, std::size_t offset)>& visit)
 {
     const auto places = referring().find(&array);
     if (places == referring().end()) {
@@ -203,6 +204,7 @@ void forget(GCfg& configuration, const Field& array, std::size_t slot)
         unsigned char* const at = bytes + place.offset;
         if (slot_referred(*place.field, get_number(*place.field, at)) == static_cast<std::int64_t>(slot)) {
             set_number(*place.field, at, none); // all bits set, where the number has no sign
+            visit(*place.field, place.offset);
         }
     }
 }

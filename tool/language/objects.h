@@ -7,6 +7,7 @@
 #include "tool/describe/description.h"
 
 #include <cstddef>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string_view>
@@ -51,8 +52,9 @@ std::optional<Referred> referred(Reference reference);
 std::int64_t slot_referred(const Field& field, std::int64_t number);
 std::int64_t number_referring(const Field& field, std::size_t slot);
 
-/// Makes every reference to the object in a slot a reference to none.
-void forget(GCfg& configuration, const Field& array, std::size_t slot);
+/// Makes every reference to the object in a slot a reference to none. Calls `visit` for each, with its offset.
+void forget(GCfg& configuration, const Field& array, std::size_t slot,
+            const std::function<void(const Field& reference, std::size_t offset)>& visit);
 
 } // namespace pondiff::tool
 

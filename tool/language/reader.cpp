@@ -143,8 +143,8 @@ bool Device::set(const Match& match)
     for (std::size_t i = 0; i < pattern.targets.size(); ++i) {
         const Target& target = pattern.targets[i];
         store(*target.field, at + target.offset, said_[i]);
-        if (target.field->syntax.kind == Syntax::Kind::key || target.field->name == "name") {
-            named_array_ = nullptr;
+        if (pattern.by_slot || target.field->syntax.kind == Syntax::Kind::key || target.field->name == "name") {
+            named_array_ = nullptr; // another entry may be the first of its name now
         }
         note(*target.field, at + target.offset, size_of(*target.field));
     }
@@ -174,7 +174,9 @@ bool Device::remove(const Match& match)
     }
     make_blank(*pattern.array->record, at);
     named_array_ = nullptr;
-    forget(configuration_, *pattern.array, slot);
+    forget(configuration_, *pattern.array, slot, [this](const Field& reference, std::size_t offset) {
+        line_.settings.push_back({&reference, offset, reference.width});
+    });
     line_.removed = {pattern.array, slot, static_cast<std::size_t>(at - bytes_)};
     return true;
 }

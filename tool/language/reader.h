@@ -26,7 +26,7 @@ struct Standing {
     std::size_t slot = 0;
 };
 
-/// A field that a line has set, or one that another field's command has switched.
+/// A field that a line has set, or switched by another field's command, or a reference to what the line has removed.
 struct Setting {
     const Field* field;
     std::size_t offset; ///< of the element in the configuration

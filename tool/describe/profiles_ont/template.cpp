@@ -9,7 +9,7 @@ static constexpr Field template_fields[] = {
     text(FIELD(GPonTemplateOnt, description), says("description <description>")),
     serial(FIELD(GPonTemplateOnt, serial), says("serial <serial>")),
     boolean(FIELD(GPonTemplateOnt, serial_is_active), on_off("define serial", "undefine serial")),
-    secret(FIELD(GPonTemplateOnt, password), says("password <password>")),
+    secret(FIELD(GPonTemplateOnt, password), says("password <password>").at_most(10)),
     boolean(FIELD(GPonTemplateOnt, password_is_active), on_off("define password", "undefine password")),
     boolean(FIELD(GPonTemplateOnt, fec_up), on_off("fec", "no fec")),
     boolean(FIELD(GPonTemplateOnt, fec_up_is_active), on_off("define fec", "undefine fec")),

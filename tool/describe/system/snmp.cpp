@@ -6,8 +6,8 @@ namespace pondiff::tool {
 static constexpr Syntax own_text = no_command("the agent's own text has no command");
 
 static constexpr Field trap_fields[] = {
-    enumeration(FIELD(GSystemSnmpTrap, type), "GSnmpTrapType_enum", says("ip snmp traps <#> type <type>")),
-    ipv4(FIELD(GSystemSnmpTrap, ipaddr), key()),
+    enumeration(FIELD(GSystemSnmpTrap, type), "GSnmpTrapType_enum", with("ipaddr")),
+    ipv4(FIELD(GSystemSnmpTrap, ipaddr), key("ip snmp traps <#> type <type>")),
 };
 DESCRIBE(GSystemSnmpTrap, trap_record, trap_fields);
 
