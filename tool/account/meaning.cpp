@@ -59,6 +59,17 @@ struct ReferenceMeant {
     }
 };
 
+ReferenceMeant object_meant(const Referred& to, std::size_t slot, const GCfg& configuration)
+{
+    const auto* const object =
+        reinterpret_cast<const unsigned char*>(&configuration) + to.offset + slot * to.field->width;
+    if (!in_use(*to.field->record, object)) {
+        return {ReferenceMeant::Kind::none, {}};
+    }
+    const Field& name = *to.field->record->name_member;
+    return {ReferenceMeant::Kind::name, text_in(name, object + name.offset)};
+}
+
 ReferenceMeant reference_meant(const Field& field, const unsigned char* at, const GCfg& configuration)
 {
     using Kind = ReferenceMeant::Kind;
@@ -69,13 +80,27 @@ ReferenceMeant reference_meant(const Field& field, const unsigned char* at, cons
     if (slot < 0 || slot >= to->field->count) {
         return to_profile ? ReferenceMeant{Kind::none, {}} : ReferenceMeant{Kind::number, {}, number};
     }
-    const auto* const object = reinterpret_cast<const unsigned char*>(&configuration) + to->offset +
-                               static_cast<std::size_t>(slot) * to->field->width;
-    if (!in_use(*to->field->record, object)) {
-        return {Kind::none, {}};
+    return object_meant(*to, static_cast<std::size_t>(slot), configuration);
+}
+
+/// Whether a number refers to the same name in both: then what is equal means the same.
+bool refer_alike(const GCfg& a, const GCfg& b)
+{
+    for (int kind = 1; kind <= static_cast<int>(Reference::terminal_vlan_id); ++kind) {
+        const auto to = referred(static_cast<Reference>(kind));
+        for (std::size_t slot = 0; slot < to->field->count; ++slot) {
+            if (!(object_meant(*to, slot, a) == object_meant(*to, slot, b))) {
+                return false;
+            }
+        }
     }
-    const Field& name = *to->field->record->name_member;
-    return {Kind::name, text_in(name, object + name.offset)};
+    return true;
+}
+
+const GCfg& blank()
+{
+    static const std::unique_ptr<GCfg> configuration = blank_configuration();
+    return *configuration;
 }
 
 template <std::size_t N>
@@ -86,14 +111,17 @@ class SideBySide {
     using Visit = std::function<void(const Beside<N>&)>;
 
     SideBySide(const std::array<const GCfg*, N>& configurations, const Visit& visit)
-        : configurations_(configurations), visit_(visit), blank_(blank_configuration())
+        : configurations_(configurations), visit_(visit)
     {
         Places places;
         There there;
         std::transform(configurations.begin(), configurations.end(), places.begin(),
                        [](const GCfg* configuration) { return reinterpret_cast<const unsigned char*>(configuration); });
         there.fill(true);
-        compare(gcfg_record, places, there, reinterpret_cast<const unsigned char*>(blank_.get()));
+        refer_alike_ = std::all_of(configurations.begin(), configurations.end(), [&](const GCfg* configuration) {
+            return refer_alike(*configuration, *configurations[0]);
+        });
+        compare(gcfg_record, places, there, reinterpret_cast<const unsigned char*>(&blank()));
     }
 
   private:
@@ -103,6 +131,9 @@ class SideBySide {
             Places inner;
             for (std::size_t i = 0; i < N; ++i) {
                 inner[i] = places[i] + field.offset;
+            }
+            if (refer_alike_ && are_equal(inner, field.size, there)) {
+                continue;
             }
             if (field.record == nullptr) {
                 compare_leaves(field, inner, there);
@@ -114,6 +145,16 @@ class SideBySide {
                 compare_told(field, inner, there, blank + field.offset);
             }
         }
+    }
+
+    static bool are_equal(const Places& places, std::size_t size, const There& there)
+    {
+        for (std::size_t i = 1; i < N; ++i) {
+            if (there[i] != there[0] || std::memcmp(places[i], places[0], size) != 0) {
+                return false;
+            }
+        }
+        return true;
     }
 
     static bool is_told_by_number(const Field& array)
@@ -239,7 +280,7 @@ class SideBySide {
 
     const std::array<const GCfg*, N> configurations_;
     const Visit& visit_;
-    std::unique_ptr<GCfg> blank_;
+    bool refer_alike_ = false; ///< the same number refers to the same name in all of them
     Path path_;
     std::size_t steps_ = 0;
     std::size_t object_ = 0;
@@ -263,7 +304,7 @@ bool means_the_same(const Field& field, const unsigned char* a, const GCfg& in_a
     if (field.layout == Layout::ended_list) {
         return list_meant(field, a) == list_meant(field, b);
     }
-    if (field.form == Form::boolean) {
+    if (field.form == Form::boolean || field.syntax.is_switch) {
         return (get_number(field, a) != 0) == (get_number(field, b) != 0);
     }
     return is_text(field) && text_meant(field, a) == text_meant(field, b);

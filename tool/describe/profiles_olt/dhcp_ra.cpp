@@ -21,8 +21,8 @@ static constexpr Field dhcp_ra_profile_fields[] = {
     ipv4(FIELD(GPonProfileOltDhcpRa, trusted_primary), says("trusted primary <trusted_primary>")),
     ipv4(FIELD(GPonProfileOltDhcpRa, trusted_secondary), says("trusted secondary <trusted_secondary>")),
     number(FIELD(GPonProfileOltDhcpRa, trusted_server_timeout), says("trusted timeout <trusted_server_timeout>")),
-    enumeration(FIELD(GPonProfileOltDhcpRa, circuit_id_mode), "GDataMode_enum", with("circuit_id_format")),
-    enumeration(FIELD(GPonProfileOltDhcpRa, remote_id_mode), "GDataMode_enum", with("remote_id_format")),
+    enumeration(FIELD(GPonProfileOltDhcpRa, circuit_id_mode), "GDataMode_enum", with("circuit_id_format").as_switch()),
+    enumeration(FIELD(GPonProfileOltDhcpRa, remote_id_mode), "GDataMode_enum", with("remote_id_format").as_switch()),
 };
 DESCRIBE(GPonProfileOltDhcpRa, dhcp_ra_profile_record, dhcp_ra_profile_fields);
 

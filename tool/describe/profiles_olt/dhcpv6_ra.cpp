@@ -22,8 +22,9 @@ static constexpr Field dhcpv6_ra_profile_fields[] = {
     ipv6(FIELD(GPonProfileOltDhcpv6Ra, trusted_primary), says("trusted primary <trusted_primary>")),
     ipv6(FIELD(GPonProfileOltDhcpv6Ra, trusted_secondary), says("trusted secondary <trusted_secondary>")),
     number(FIELD(GPonProfileOltDhcpv6Ra, trusted_server_timeout), says("trusted timeout <trusted_server_timeout>")),
-    enumeration(FIELD(GPonProfileOltDhcpv6Ra, interface_id_mode), "GDataMode_enum", with("interface_id_format")),
-    enumeration(FIELD(GPonProfileOltDhcpv6Ra, remote_id_mode), "GDataMode_enum", with("remote_id_format")),
+    enumeration(FIELD(GPonProfileOltDhcpv6Ra, interface_id_mode), "GDataMode_enum",
+                with("interface_id_format").as_switch()),
+    enumeration(FIELD(GPonProfileOltDhcpv6Ra, remote_id_mode), "GDataMode_enum", with("remote_id_format").as_switch()),
 };
 DESCRIBE(GPonProfileOltDhcpv6Ra, dhcpv6_ra_profile_record, dhcpv6_ra_profile_fields);
 
