@@ -20,35 +20,6 @@ namespace {
 constexpr int last_switch = 3;
 constexpr std::size_t most_calls = 8;
 
-Patch any_patch(Random& random)
-{
-    constexpr Patch::Side sides[] = {Patch::Side::cfg, Patch::Side::cfg, Patch::Side::orig, Patch::Side::both};
-    Patch patch;
-    patch.side = random.any_of(sides);
-    patch.place = any_place(random);
-    patch.bytes = any_bytes(*patch.place.field, random);
-    return patch;
-}
-
-/// The field of the same record that says whether its object exists, so that objects come and go.
-void add_existence(const Patch& patch, Scenario& scenario, Random& random)
-{
-    const std::string& path = patch.place.path;
-    for (std::size_t dot = path.rfind('.'); dot != path.npos && dot != 0; dot = path.rfind('.', dot - 1)) {
-        for (const char* const name : {"exist", "exists"}) {
-            Patch existence;
-            existence.place = find_place(path.substr(0, dot + 1) + name);
-            if (existence.place.field == nullptr)
-                continue;
-            existence.side = random.one_in(2) ? Patch::Side::orig : Patch::Side::cfg;
-            existence.bytes.resize(existence.place.field->width);
-            existence.bytes[0] = static_cast<char>(random.below(2));
-            scenario.patches.push_back(existence);
-            return;
-        }
-    }
-}
-
 void mutate_bytes(Patch& patch, Random& random)
 {
     const std::size_t width = patch.bytes.size();
@@ -82,9 +53,7 @@ void mutate_patches(Scenario& scenario, Random& random)
 {
     std::vector<Patch>& patches = scenario.patches;
     if (patches.empty() || random.one_in(3)) {
-        patches.push_back(any_patch(random));
-        if (random.one_in(2))
-            add_existence(Patch(patches.back()), scenario, random);
+        add_any_patch(scenario, random);
         return;
     }
     Patch& patch = random.any_of(patches);

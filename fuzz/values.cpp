@@ -64,6 +64,16 @@ std::size_t any_index(std::size_t count, Random& random)
     }
 }
 
+Patch any_patch(Random& random)
+{
+    constexpr Patch::Side sides[] = {Patch::Side::cfg, Patch::Side::cfg, Patch::Side::orig, Patch::Side::both};
+    Patch patch;
+    patch.side = random.any_of(sides);
+    patch.place = any_place(random);
+    patch.bytes = any_bytes(*patch.place.field, random);
+    return patch;
+}
+
 } // namespace
 
 Place any_place(Random& random)
@@ -95,6 +105,31 @@ std::string any_bytes(const tool::Field& field, Random& random)
     for (char& byte : bytes)
         byte = same ? first : static_cast<char>(random.below(256));
     return bytes;
+}
+
+void add_existence(const Patch& patch, Scenario& scenario, Random& random)
+{
+    const std::string& path = patch.place.path;
+    for (std::size_t dot = path.rfind('.'); dot != path.npos && dot != 0; dot = path.rfind('.', dot - 1)) {
+        for (const char* const name : {"exist", "exists"}) {
+            Patch existence;
+            existence.place = find_place(path.substr(0, dot + 1) + name);
+            if (existence.place.field == nullptr)
+                continue;
+            existence.side = random.one_in(2) ? Patch::Side::orig : Patch::Side::cfg;
+            existence.bytes.resize(existence.place.field->width);
+            existence.bytes[0] = static_cast<char>(random.below(2));
+            scenario.patches.push_back(existence);
+            return;
+        }
+    }
+}
+
+void add_any_patch(Scenario& scenario, Random& random)
+{
+    scenario.patches.push_back(any_patch(random));
+    if (random.one_in(2))
+        add_existence(Patch(scenario.patches.back()), scenario, random);
 }
 
 } // namespace pondiff::fuzz

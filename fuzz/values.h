@@ -15,6 +15,12 @@ Place any_place(Random& random);
 /// Bytes for a leaf that mean something to its kind: edges of numbers and of tables, texts without an end, marks.
 std::string any_bytes(const tool::Field& field, Random& random);
 
+/// Adds a patch of the field of the same record that says whether its object exists, so that objects come and go.
+void add_existence(const Patch& patch, Scenario& scenario, Random& random);
+
+/// Adds a patch of any leaf, and sometimes one of its object's existence.
+void add_any_patch(Scenario& scenario, Random& random);
+
 } // namespace pondiff::fuzz
 
 #endif
