@@ -24,10 +24,9 @@ std::string_view last_word(std::string_view line)
 /// Whether there is an object of a kind that is referred to, under this name.
 bool is_name(GCfg& configuration, std::string_view name)
 {
-    for (int kind = 1; kind <= static_cast<int>(Reference::terminal_vlan_id); ++kind) {
-        const auto to = referred(static_cast<Reference>(kind));
-        const Table table{to->field, bytes_of(configuration) + to->offset};
-        if (table.find_text(*to->field->record->name_member, name)) {
+    for (const Referred& to : referred_arrays()) {
+        const Table table{to.field, bytes_of(configuration) + to.offset};
+        if (table.find_text(*to.field->record->name_member, name)) {
             return true;
         }
     }

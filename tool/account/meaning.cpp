@@ -86,10 +86,9 @@ ReferenceMeant reference_meant(const Field& field, const unsigned char* at, cons
 /// Whether a number refers to the same name in both: then what is equal means the same.
 bool refer_alike(const GCfg& a, const GCfg& b)
 {
-    for (int kind = 1; kind <= static_cast<int>(Reference::terminal_vlan_id); ++kind) {
-        const auto to = referred(static_cast<Reference>(kind));
-        for (std::size_t slot = 0; slot < to->field->count; ++slot) {
-            if (!(object_meant(*to, slot, a) == object_meant(*to, slot, b))) {
+    for (const Referred& to : referred_arrays()) {
+        for (std::size_t slot = 0; slot < to.field->count; ++slot) {
+            if (!(object_meant(to, slot, a) == object_meant(to, slot, b))) {
                 return false;
             }
         }
@@ -209,9 +208,8 @@ class SideBySide {
     /// Matches elements by what tells them; of several that are told alike, the first with the first, and so on.
     void compare_told(const Field& array, const Places& first, const There& there, const unsigned char* blank)
     {
-        const Field* const key = array.element.told == Element::Told::by_name
-                                     ? array.record->name_member
-                                     : array.record->key_member;
+        const Field* const key =
+            array.element.told == Element::Told::by_name ? array.record->name_member : array.record->key_member;
         using Slots = std::array<std::vector<std::ptrdiff_t>, N>;
         std::map<std::string_view, Slots> elements;
         for (std::size_t i = 0; i < N; ++i) {

@@ -165,6 +165,18 @@ std::optional<Referred> referred(Reference reference)
     return found != known.end() ? std::optional(found->second) : std::nullopt;
 }
 
+const std::vector<Referred>& referred_arrays()
+{
+    static const std::vector<Referred> arrays = [] {
+        std::vector<Referred> all{*referred(Reference::terminal_vlan_id)};
+        for (const ProfileKind& kind : profile_kinds) {
+            all.push_back(*referred(kind.reference));
+        }
+        return all;
+    }();
+    return arrays;
+}
+
 std::int64_t slot_referred(const Field& field, std::int64_t number)
 {
     switch (field.reference) {

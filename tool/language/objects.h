@@ -11,6 +11,7 @@
 #include <memory>
 #include <optional>
 #include <string_view>
+#include <vector>
 
 namespace pondiff::tool {
 
@@ -47,6 +48,9 @@ struct Referred {
     std::size_t offset;
 };
 std::optional<Referred> referred(Reference reference);
+
+/// Every array of objects that references refer to.
+const std::vector<Referred>& referred_arrays();
 
 /// The slot that a number of the field refers to, -1 where it refers to none; and the number that refers to a slot.
 std::int64_t slot_referred(const Field& field, std::int64_t number);
