@@ -5,11 +5,16 @@
 #include "bench/print_lines.h"
 #include "bench/times.h"
 #include "pon/command_file_generator.h"
+#include "tool/describe/records.h"
+#include "tool/language/index.h"
+#include "tool/language/objects.h"
+#include "tool/language/reader.h"
 
 #include <algorithm>
 #include <benchmark/benchmark.h>
 #include <cstdlib>
 #include <cstring>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -217,6 +222,43 @@ void long_and_short_script(benchmark::State& state)
     state.counters["lines"] = short_lines;
 }
 
+/// The full script read onto a blank configuration, against writing it.
+void read_full_script(benchmark::State& state)
+{
+    const Configuration orig = blank();
+    const Configuration cfg = full();
+    const Session session(orig, cfg);
+    const std::string script = session.script();
+    const auto unread = pondiff::tool::blank_configuration();
+    const auto device = std::make_unique<GCfg>();
+    Ratios ratios;
+    for ([[maybe_unused]] auto pass : state) {
+        std::memcpy(device.get(), unread.get(), sizeof(GCfg));
+        const double unit = timed([&] { session.diff(); });
+        const double time = timed([&] {
+            pondiff::tool::read_script(script, *device,
+                                       [](const pondiff::tool::Line& line) { benchmark::DoNotOptimize(&line); });
+        });
+        state.SetIterationTime(time);
+        ratios.add(time, unit);
+    }
+    ratios.report(state);
+}
+
+/// Milliseconds for the index of all commands.
+void build_index(benchmark::State& state)
+{
+    constexpr double milli = 1e-3;
+    Ratios ratios;
+    for ([[maybe_unused]] auto pass : state) {
+        const double time =
+            timed([] { benchmark::DoNotOptimize(pondiff::tool::Index(pondiff::tool::gcfg_record).patterns().data()); });
+        state.SetIterationTime(time);
+        ratios.add(time, milli);
+    }
+    ratios.report(state);
+}
+
 constexpr int many = 300;
 constexpr int few = 20;
 
@@ -227,6 +269,8 @@ BENCHMARK(changed_last_shaping)->Iterations(many)->UseManualTime()->Unit(benchma
 BENCHMARK(open_and_close)->Iterations(many)->UseManualTime()->Unit(benchmark::kMicrosecond);
 BENCHMARK(full_script)->Iterations(few)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(full_dump)->Iterations(few)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(read_full_script)->Iterations(few)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(build_index)->Iterations(few)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(long_and_short_script)->Iterations(few)->UseManualTime()->Unit(benchmark::kMillisecond);
 
 } // namespace

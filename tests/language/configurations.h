@@ -4,6 +4,7 @@
 /// @file
 /// What the tests of the reader do with configurations.
 
+#include "fuzz/touched.h"
 #include "pon/command_file_generator.h"
 #include "tool/describe/description.h"
 #include "tool/describe/records.h"
@@ -18,6 +19,7 @@ namespace language_tests {
 
 using namespace pondiff;
 using namespace pondiff::tool;
+using fuzz::Touched;
 
 inline unsigned char* bytes_of(GCfg& configuration)
 {
@@ -56,35 +58,6 @@ inline void make_keys_distinct(GCfg& configuration)
         }
     });
 }
-
-/// What lines have changed, by their own account.
-class Touched {
-  public:
-    void add(std::size_t offset, std::size_t size) { ranges_.push_back({offset, size}); }
-    void add(const Line& line)
-    {
-        for (const Setting& setting : line.settings) {
-            add(setting.offset, setting.size);
-        }
-        for (const Object& object : {line.created, line.removed}) {
-            if (object.array != nullptr) {
-                add(object.offset, object.array->width);
-            }
-        }
-    }
-    bool has(std::size_t offset, std::size_t size) const { return overlaps(ranges_, offset, size); }
-    /// Makes it again what it was.
-    void put_back(GCfg& configuration, GCfg& before)
-    {
-        for (const Range& range : ranges_) {
-            std::memcpy(bytes_of(configuration) + range.offset, bytes_of(before) + range.offset, range.size);
-        }
-        ranges_.clear();
-    }
-
-  private:
-    Ranges ranges_;
-};
 
 } // namespace language_tests
 

@@ -6,6 +6,7 @@
 /// of each; and a device that takes it.
 
 #include "fuzz/pair.h"
+#include "fuzz/plain.h"
 #include "fuzz/random.h"
 #include "fuzz/scenario.h"
 #include "fuzz/values.h"
@@ -19,50 +20,6 @@
 #include <vector>
 
 namespace language_tests {
-
-/// Takes out of a value what no script can carry: quotes, control characters, placeholders; empty names, and blanks in
-/// names, which some commands have without quotes; vendors of ONTs that are no letters.
-inline void make_plain(const Field& field, unsigned char* at)
-{
-    if (field.form == Form::serial) {
-        for (int i = 0; i < 4; ++i) {
-            at[i] = static_cast<unsigned char>('A' + at[i] % 26);
-        }
-    }
-    if (!is_text(field)) {
-        return;
-    }
-    for (std::size_t i = 0; i < field.width && at[i] != 0; ++i) {
-        const bool is_blank_in_name = at[i] == ' ' && field.name == "name";
-        if (at[i] < ' ' || at[i] == 0x7F || at[i] == '"' || at[i] == '$' || is_blank_in_name) {
-            at[i] = 'x';
-        }
-    }
-    if (field.name == "name" && at[0] == 0) {
-        at[0] = 'e';
-    }
-}
-
-/// The names of the objects that a patch concerns, for those that have none in the base.
-inline void add_names(const fuzz::Patch& patch, std::vector<fuzz::Patch>& patches)
-{
-    const std::string& path = patch.place.path;
-    for (std::size_t dot = path.find('.'); dot != path.npos; dot = path.find('.', dot + 1)) {
-        fuzz::Patch name;
-        name.side = fuzz::Patch::Side::both;
-        name.place = fuzz::find_place(path.substr(0, dot + 1) + "name");
-        const char* const base = reinterpret_cast<const char*>(&fuzz::base()) + name.place.offset;
-        if (name.place.field == nullptr || !is_text(*name.place.field) || *base != 0) {
-            continue;
-        }
-        std::string text = "s" + path.substr(0, dot);
-        text.erase(0, text.find_last_of('.') == text.npos ? 0 : text.find_last_of('.'));
-        text[0] = 's';
-        name.bytes = text;
-        name.bytes.resize(name.place.field->width);
-        patches.push_back(name);
-    }
-}
 
 class RandomPairs {
   public:
@@ -81,13 +38,7 @@ class RandomPairs {
         }
         scenario.all = random_.one_in(16) ? 1 : 0;
         scenario.common = static_cast<int>(random_.below(3));
-        std::vector<fuzz::Patch> patches;
-        for (fuzz::Patch& patch : scenario.patches) {
-            make_plain(*patch.place.field, reinterpret_cast<unsigned char*>(patch.bytes.data()));
-            add_names(patch, patches);
-        }
-        patches.insert(patches.end(), scenario.patches.begin(), scenario.patches.end());
-        scenario.patches = patches;
+        fuzz::make_plain(scenario);
         pair_.patch(scenario.patches);
         area = random_.one_in(3) ? any_area() : "";
         write();
@@ -109,13 +60,9 @@ class RandomPairs {
     /// Makes the device hold the old configuration again.
     void put_back()
     {
-        for (const fuzz::Patch& patch : scenario.patches) {
-            touched_.add(patch.place.offset, patch.bytes.size());
-        }
+        touched_.add(scenario.patches);
         touched_.put_back(*device_, orig());
-        for (const fuzz::Patch& patch : scenario.patches) { // taken off the pair before it is patched again
-            touched_.add(patch.place.offset, patch.bytes.size());
-        }
+        touched_.add(scenario.patches); // taken off the pair before it is patched again
     }
 
     GCfg& device() { return *device_; }

@@ -38,7 +38,7 @@ std::unique_ptr<GCfg> any_configuration(fuzz::Random& random)
         fuzz::Scenario scenario;
         fuzz::add_any_patch(scenario, random);
         for (fuzz::Patch& patch : scenario.patches) {
-            make_plain(*patch.place.field, reinterpret_cast<unsigned char*>(patch.bytes.data()));
+            fuzz::make_plain(*patch.place.field, reinterpret_cast<unsigned char*>(patch.bytes.data()));
             std::memcpy(bytes_of(*configuration) + patch.place.offset, patch.bytes.data(), patch.bytes.size());
         }
     }
