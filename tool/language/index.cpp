@@ -99,11 +99,6 @@ void replace_all(std::string& text, std::string_view needle, std::string_view re
     }
 }
 
-constexpr std::uint64_t key_of(std::uint32_t node, std::uint32_t hash)
-{
-    return std::uint64_t{node} << 32U | hash;
-}
-
 /// Whether the CLI has no word for some elements of an array. In a script, nothing tells them: two blanks follow one
 /// another.
 bool has_wordless(const Field& array)
@@ -121,6 +116,10 @@ bool has_wordless(const Field& array)
     return false;
 }
 
+/// Places for the words of all commands: four times as many as there are, so that places are mostly free.
+constexpr std::size_t index_size = 8192;
+constexpr std::size_t edges_at_most = index_size / 2;
+
 bool stands_for_terminal_vlan(const Field& field)
 {
     return field.reference == Reference::terminal_vlan_id || field.reference == Reference::terminal_vlan_priority;
@@ -130,7 +129,11 @@ bool stands_for_terminal_vlan(const Field& field)
 
 class Index::Builder {
   public:
-    explicit Builder(Index& index) : index_(index) { index.nodes_.emplace_back(); }
+    explicit Builder(Index& index) : index_(index)
+    {
+        index.nodes_.emplace_back();
+        index.literals_.resize(index_size);
+    }
 
     const View* add_view(View::Kind kind, const Field* objects, std::uint32_t offset)
     {
@@ -175,6 +178,9 @@ class Index::Builder {
             inner.array = &field;
             inner.array_offset = inner.offset;
             inner.offset = 0;
+        }
+        if (element.told == Element::Told::by_key && field.record->key_member->width < 2) {
+            fail(field.name, "a key has two bytes at least"); // see Table::find
         }
         if (element.remove != nullptr) {
             add_element_command(element.remove, Pattern::Does::remove, inner, nullptr);
@@ -385,10 +391,14 @@ class Index::Builder {
 
     std::uint32_t literal(std::uint32_t node, std::string_view word)
     {
-        Edge& edge = index_.literals_[key_of(node, hash_of(word))];
+        const std::uint32_t hash = hash_of(word);
+        Edge& edge = index_.literals_[index_.place_of(node, hash)];
         if (edge.node == 0) {
             index_.nodes_.emplace_back();
-            edge = {word, static_cast<std::uint32_t>(index_.nodes_.size() - 1)};
+            edge = {word, node, hash, static_cast<std::uint32_t>(index_.nodes_.size() - 1)};
+            if (++edges_ == edges_at_most) {
+                fail(word, "the table of the index is too small");
+            }
         } else if (edge.word != word) {
             fail(word, "another word has its hash");
         }
@@ -409,6 +419,7 @@ class Index::Builder {
     }
 
     Index& index_;
+    std::size_t edges_ = 0;
 };
 
 Index::Index(const Record& record)
@@ -422,10 +433,20 @@ Index::Index(const Record& record)
     builder.describe(record, Context{configure_});
 }
 
+/// The place of the edge, or the free one that it would take.
+std::size_t Index::place_of(std::uint32_t node, std::uint32_t hash) const
+{
+    std::size_t place = (hash ^ node * 0x9E3779B9U) % index_size;
+    while (literals_[place].node != 0 && (literals_[place].from != node || literals_[place].hash != hash)) {
+        place = (place + 1) % index_size;
+    }
+    return place;
+}
+
 std::uint32_t Index::literal(std::uint32_t node, const Token& word) const
 {
-    const auto edge = literals_.find(key_of(node, word.hash));
-    return edge != literals_.end() && edge->second.word == word.text ? edge->second.node : 0;
+    const Edge& edge = literals_[place_of(node, word.hash)];
+    return edge.word == word.text ? edge.node : 0;
 }
 
 bool Index::match(std::uint32_t node, std::size_t at, std::size_t captured, const Tokens& tokens, Match& found) const

@@ -92,10 +92,12 @@ class Index {
         std::string_view prefix;
         const Pattern* pattern = nullptr; ///< of a command that ends here
     };
-    /// A literal word and the node behind it. No two literals behind one node have the same hash.
+    /// A literal word behind a node, and the node behind the word. No two literals behind one node have the same hash.
     struct Edge {
         std::string_view word;
-        std::uint32_t node = 0;
+        std::uint32_t from = 0;
+        std::uint32_t hash = 0;
+        std::uint32_t node = 0; ///< 0 where there is no edge
     };
     struct Context {
         const View* view;
@@ -107,11 +109,12 @@ class Index {
     };
     class Builder;
 
+    std::size_t place_of(std::uint32_t node, std::uint32_t hash) const;
     std::uint32_t literal(std::uint32_t node, const Token& word) const;
     bool match(std::uint32_t node, std::size_t at, std::size_t captured, const Tokens& tokens, Match& found) const;
 
     std::vector<Node> nodes_;
-    std::unordered_map<std::uint64_t, Edge> literals_; ///< by node and the word's hash
+    std::vector<Edge> literals_; ///< a hash table: where the place of an edge is taken, the next free one is its own
     std::deque<std::string> texts_;
     std::deque<Pattern> patterns_;
     std::deque<View> views_;

@@ -4,6 +4,7 @@
 #include "tool/profiles.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <cstring>
 #include <map>
 #include <vector>
@@ -123,15 +124,23 @@ bool Table::has_bytes(std::size_t slot, const Field& member, const unsigned char
 bool Table::has_text(std::size_t slot, const Field& member, std::string_view text) const
 {
     const unsigned char* const held = at(slot) + member.offset;
-    return text.size() <= member.width && std::memcmp(held, text.data(), text.size()) == 0 &&
-           (text.size() == member.width || held[text.size()] == 0) && in_use(*field->record, at(slot));
+    if (text.size() > member.width || (text.size() != member.width && held[text.size()] != 0)) {
+        return false; // most names differ in their length, and else in their last character
+    }
+    const bool may_be = text.empty() || held[text.size() - 1] == static_cast<unsigned char>(text.back());
+    return may_be && std::memcmp(held, text.data(), text.size()) == 0 && in_use(*field->record, at(slot));
 }
 
 std::optional<std::size_t> Table::find(const Field& member, const unsigned char* bytes) const
 {
+    constexpr std::size_t number = sizeof(std::uint16_t); // the beginning of every key; VLANs are no more
+    std::uint16_t start = 0;
+    std::memcpy(&start, bytes, number);
     const unsigned char* key = first + member.offset;
     for (std::size_t i = 0; i < field->count; ++i, key += field->width) {
-        if (*key == *bytes && has_bytes(i, member, bytes)) {
+        std::uint16_t held = 0;
+        std::memcpy(&held, key, number);
+        if (held == start && has_bytes(i, member, bytes)) {
             return i;
         }
     }
@@ -148,9 +157,9 @@ std::optional<std::size_t> Table::find_text(const Field& member, std::string_vie
     return std::nullopt;
 }
 
-std::optional<std::size_t> Table::free_slot() const
+std::optional<std::size_t> Table::free_slot(std::size_t from) const
 {
-    for (std::size_t i = 0; i < field->count; ++i) {
+    for (std::size_t i = from; i < field->count; ++i) {
         if (!in_use(*field->record, at(i))) {
             return i;
         }

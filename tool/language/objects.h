@@ -39,7 +39,8 @@ struct Table {
     std::optional<std::size_t> find_text(const Field& member, std::string_view text) const;
     bool has_text(std::size_t slot, const Field& member, std::string_view text) const;
     bool has_bytes(std::size_t slot, const Field& member, const unsigned char* bytes) const;
-    std::optional<std::size_t> free_slot() const;
+    /// The first one from a slot on.
+    std::optional<std::size_t> free_slot(std::size_t from = 0) const;
 };
 
 /// The array of objects that a reference refers to, as an offset in the configuration; null when it refers to none.

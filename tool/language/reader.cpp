@@ -113,10 +113,13 @@ unsigned char* Device::base() const
 bool Device::set(const Match& match)
 {
     const Pattern& pattern = *match.pattern;
-    said_.assign(pattern.targets.size(), {});
+    if (said_.size() < pattern.targets.size()) {
+        said_.resize(pattern.targets.size());
+    }
     for (std::size_t i = 0; i < pattern.targets.size(); ++i) {
         const Target& target = pattern.targets[i];
         if (target.word < 0) {
+            said_[i] = {};
             said_[i].number = target.constant;
             continue;
         }
@@ -144,7 +147,7 @@ bool Device::set(const Match& match)
         const Target& target = pattern.targets[i];
         store(*target.field, at + target.offset, said_[i]);
         if (pattern.by_slot || target.field->syntax.kind == Syntax::Kind::key || target.field->name == "name") {
-            named_array_ = nullptr; // another entry may be the first of its name now
+            remember(nullptr, 0); // another entry may be the first of its name now
         }
         note(*target.field, at + target.offset, size_of(*target.field));
     }
@@ -173,7 +176,7 @@ bool Device::remove(const Match& match)
         return true;
     }
     make_blank(*pattern.array->record, at);
-    named_array_ = nullptr;
+    remember(nullptr, 0);
     forget(configuration_, *pattern.array, slot, [this](const Field& reference, std::size_t offset) {
         line_.settings.push_back({&reference, offset, reference.width});
     });
@@ -304,7 +307,7 @@ bool Device::find_by_text(const Match& match, const Field& member, bool create, 
     if (token.text.empty() && pattern.does != Pattern::Does::enter) {
         return refuse("no object has the empty name");
     }
-    const auto free = table.free_slot();
+    const auto free = find_free(table);
     if (!free) {
         return refuse(fmt::format("all {} {} are in use", pattern.array->count, pattern.array->plural));
     }
@@ -344,12 +347,23 @@ bool Device::find_by_key(const Match& match, bool create, std::size_t& slot)
     if (!create) {
         return false;
     }
-    const auto free = table.free_slot();
+    const auto free = find_free(table);
     if (!free) {
         return refuse(fmt::format("all {} {} are in use", pattern.array->count, pattern.array->plural));
     }
     slot = *free;
     return this->create(*pattern.array, table.first, slot, &key, &said);
+}
+
+std::optional<std::size_t> Device::find_free(const Table& table)
+{
+    // Without a flag of existence an entry is freed by being set to zeros.
+    const bool is_freed_by_removal = table.field->record->existence_member != nullptr;
+    const bool known = is_freed_by_removal && filled_array_ == table.first;
+    const auto free = table.free_slot(known ? filled_ : 0);
+    filled_array_ = table.first;
+    filled_ = free.value_or(table.field->count);
+    return free;
 }
 
 /// Makes a blank element in a free slot, there and told by `identity`.
@@ -375,6 +389,9 @@ void Device::remember(const unsigned char* array, std::size_t slot)
 {
     named_array_ = array;
     named_slot_ = slot;
+    if (filled_array_ != array) {
+        filled_array_ = nullptr;
+    }
 }
 
 void Device::note(const Field& field, const unsigned char* at, std::size_t size)

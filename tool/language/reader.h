@@ -11,9 +11,11 @@
 #include "tool/describe/description.h"
 #include "tool/language/index.h"
 #include "tool/language/notation.h"
+#include "tool/language/objects.h"
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -87,6 +89,7 @@ class Device {
     bool find_element(const Match& match, bool create, std::size_t& slot);
     bool find_by_text(const Match& match, const Field& member, bool create, std::size_t& slot);
     bool find_by_key(const Match& match, bool create, std::size_t& slot);
+    std::optional<std::size_t> find_free(const Table& table);
     bool create(const Field& array, unsigned char* first, std::size_t slot, const Field* member, const Said* identity);
     void remember(const unsigned char* array, std::size_t slot);
     void note(const Field& field, const unsigned char* at, std::size_t size);
@@ -101,6 +104,9 @@ class Device {
     /// The entry that was named last: the next line mostly names it again. Forgotten when what tells entries changes.
     const unsigned char* named_array_ = nullptr;
     std::size_t named_slot_ = 0;
+    /// The array in which an entry was made last: before its slot `filled_` none is free.
+    const unsigned char* filled_array_ = nullptr;
+    std::size_t filled_ = 0;
 };
 
 /// Takes every line of a script in turn and calls `visit(const Line&)` for each; the script's end ends its last line.

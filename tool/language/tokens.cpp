@@ -11,6 +11,15 @@ bool is_blank(char c)
     return c == ' ' || c == '\t';
 }
 
+/// Whether a character ends a word without quotes.
+constexpr std::array<bool, 256> ends_word = [] {
+    std::array<bool, 256> ends{};
+    for (const unsigned char c : {' ', '\t', '"', '\0'}) {
+        ends[c] = true;
+    }
+    return ends;
+}();
+
 } // namespace
 
 Tokens::Tokens(std::string_view line)
@@ -37,7 +46,7 @@ Tokens::Tokens(std::string_view line)
                 return;
             }
         } else {
-            while (at != end && !is_blank(*at) && *at != '"' && *at != '\0') {
+            while (at != end && !ends_word[static_cast<unsigned char>(*at)]) {
                 ++at;
             }
         }

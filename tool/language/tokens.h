@@ -4,6 +4,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <string_view>
 
 namespace pondiff::tool {
@@ -15,14 +16,30 @@ struct Token {
     std::uint32_t hash; ///< of the text
 };
 
-/// FNV-1a
-constexpr std::uint32_t hash_of(std::string_view text)
+/// Of the length and the ends of a word; longer words that differ in their middle alone have the same.
+inline std::uint32_t hash_of(std::string_view text)
 {
-    std::uint32_t hash = 2166136261U;
-    for (const char c : text) {
-        hash = (hash ^ static_cast<unsigned char>(c)) * 16777619U;
+    std::uint64_t ends[2] = {};
+    const std::size_t part = text.size() >= 8 ? 8 : text.size() >= 4 ? 4 : text.empty() ? 0 : 1;
+    const char* const last = text.data() + text.size() - part;
+    switch (part) { // sizes that the compiler knows
+    case 8:
+        std::memcpy(&ends[0], text.data(), 8);
+        std::memcpy(&ends[1], last, 8);
+        break;
+    case 4:
+        std::memcpy(&ends[0], text.data(), 4);
+        std::memcpy(&ends[1], last, 4);
+        break;
+    case 1:
+        ends[0] = static_cast<unsigned char>(text.front()) * 256U + static_cast<unsigned char>(text[text.size() / 2]);
+        ends[1] = static_cast<unsigned char>(*last);
+        break;
+    default:
+        break;
     }
-    return hash;
+    const std::uint64_t mixed = (ends[0] * 0x9E3779B97F4A7C15U ^ (ends[1] + text.size())) * 0xD6E8FEB86659FD93U;
+    return static_cast<std::uint32_t>(mixed >> 32U);
 }
 
 /// The words of a line. They refer to the line.
