@@ -3,7 +3,9 @@
 /// largest configuration.
 
 #include "pon/DataToCommandsConvertor/text.h"
+#include "pon/blocks.h"
 #include "pon/diff_builder/script.h"
+#include "pon/profile_kinds.h"
 #include "tests/support/allocation.h"
 #include "tests/support/diff.h"
 #include "tests/support/record_diffs.h"
@@ -105,8 +107,11 @@ TEST_F(FailingAllocations, PartialDiffs)
 
 TEST_F(FailingAllocations, EachKindOfProfile)
 {
-    char kinds[][16] = {"address-table", "cross-connect", "dba",  "dhcp-ra",  "dhcpv6-ra", "management",
-                        "ports",         "voice",         "vlan", "pppoe-ia", "shaping",   "template"};
+    char kinds[][16] = {
+#define NAME(part, array, record, tables, lookup, prefix, name, called) name,
+        PON_PROFILE_KINDS(NAME)
+#undef NAME
+    };
     for (char(&kind)[16] : kinds) {
         fail_each_allocation(kind, [&] { return GetProfileDiff(&session.orig->pon, &session.cfg->pon, kind, 1); });
         fail_each_allocation(kind, [&] { return GetProfileDiff(&session.orig->pon, &session.cfg->pon, kind, -1); });
@@ -115,8 +120,11 @@ TEST_F(FailingAllocations, EachKindOfProfile)
 
 TEST_F(FailingAllocations, EachBlock)
 {
-    char blocks[][16] = {"olt",  "network", "backup",       "cli",    "config",  "management", "ntp",
-                         "snmp", "ssh",     "source_guard", "telnet", "logging", "user",       "route"};
+    char blocks[][16] = {
+#define NAME(name, path, diff) name,
+        PON_BLOCKS(NAME)
+#undef NAME
+    };
     for (char(&block)[16] : blocks)
         fail_each_allocation(block, [&] { return GetBlockDiff(session.orig, session.cfg, block); });
 }

@@ -1,3 +1,4 @@
+#include "pon/profile_kinds.h"
 #include "tests/partial_diff.h"
 
 #include <climits>
@@ -43,6 +44,8 @@ const Kind kinds[] = {
     {"vlan", "profile vlan", [](GPonCfg& pon, int i) -> void* { return &pon.profiles_olt.vlan[i]; }, 32, false},
     {"template", "template", [](GPonCfg& pon, int i) -> void* { return &pon.profiles_ont.template_ont[i]; }, 32},
 };
+
+static_assert(std::size(kinds) == pondiff::profile_kind_count, "each kind");
 
 const std::string nothing = "configure terminal\nexit\ncommit\n";
 

@@ -1,4 +1,3 @@
-#include "pon/DataToCommandsConvertor/views.h"
 #include "tests/support/diff.h"
 
 #include <algorithm>
@@ -139,8 +138,6 @@ class Views : public testing::Test {
 } // namespace
 
 // ------------------------------------------------------------------------------------------------- every two views
-
-static_assert(std::size(ENTERED) == pondiff::view_count - 2, "all views but the top level and the configuration mode");
 
 TEST_F(Views, FromTheTopLevelAndBack)
 {

@@ -1,6 +1,7 @@
 /// What the completions for bash and zsh ask the program; tests/completions/ covers the rest of them.
 
 #include "tests/support/program.h"
+#include "tool/profiles.h"
 
 #include <gmock/gmock.h>
 
@@ -99,10 +100,11 @@ TEST_F(Complete, Areas)
 
 TEST_F(Complete, KindsOfProfilesAndBlocks)
 {
-    expect({"diff", "--only", "profile:"}, "profile:address-table\t\nprofile:cross-connect\t\nprofile:dba\t\n"
-                                           "profile:dhcp-ra\t\nprofile:dhcpv6-ra\t\nprofile:management\t\n"
-                                           "profile:ports\t\nprofile:voice\t\nprofile:pppoe-ia\t\n"
-                                           "profile:shaping\t\nprofile:vlan\t\nprofile:template\t\n");
+    std::string kinds;
+    for (const pondiff::tool::ProfileKind& kind : pondiff::tool::profile_kinds) {
+        kinds += std::string("profile:") + kind.name + "\t\n";
+    }
+    expect({"diff", "--only", "profile:"}, kinds);
     expect({"diff", "--only", "profile:d"}, "profile:dba\t\nprofile:dhcp-ra\t\nprofile:dhcpv6-ra\t\n");
     expect({"diff", "--only", "profile:vlan:"}, "");
     expect({"diff", "--only", "block:"}, "block:olt\t\nblock:network\t\nblock:backup\t\nblock:cli\t\n"

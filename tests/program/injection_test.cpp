@@ -3,6 +3,7 @@
 
 #include "pon/DataToCommandsConvertor.h"
 #include "pon/command_file_generator.h"
+#include "pon/profile_kinds.h"
 #include "tests/support/plausible.h"
 
 #include <algorithm>
@@ -118,30 +119,11 @@ std::vector<char*> marks_in_session()
     std::vector<char*> marks;
     collect_marks(user2id_connection, marks);
     collect_marks(terminalvlan2id_connection, marks);
-    collect_marks(management2id_connection, marks);
-    collect_marks(shaping2id_connection, marks);
-    collect_marks(ports2id_connection, marks);
-    collect_marks(voice2id_connection, marks);
-    collect_marks(cross_connect2id_connection, marks);
-    collect_marks(alloc2id_connection, marks);
-    collect_marks(onttemplate2id_connection, marks);
-    collect_marks(address_table2id_connection, marks);
-    collect_marks(dhcpra2id_connection, marks);
-    collect_marks(dhcpv6ra2id_connection, marks);
-    collect_marks(pppoeia2id_connection, marks);
-    collect_marks(vlan2id_connection, marks);
-    collect_marks(def_management2id_connection, marks);
-    collect_marks(def_shaping2id_connection, marks);
-    collect_marks(def_ports2id_connection, marks);
-    collect_marks(def_voice2id_connection, marks);
-    collect_marks(def_cross_connect2id_connection, marks);
-    collect_marks(def_alloc2id_connection, marks);
-    collect_marks(def_onttemplate2id_connection, marks);
-    collect_marks(def_address_table2id_connection, marks);
-    collect_marks(def_dhcpra2id_connection, marks);
-    collect_marks(def_dhcpv6ra2id_connection, marks);
-    collect_marks(def_pppoeia2id_connection, marks);
-    collect_marks(def_vlan2id_connection, marks);
+#define COLLECT_MARKS(part, array, record, tables, ...)                                                                \
+    collect_marks(tables##2id_connection, marks);                                                                      \
+    collect_marks(def_##tables##2id_connection, marks);
+    PON_PROFILE_KINDS(COLLECT_MARKS)
+#undef COLLECT_MARKS
     return marks;
 }
 
@@ -173,18 +155,9 @@ class Injection : public testing::Test {
             const char* word;
         };
         static constexpr Kind kinds[] = {
-            {"pon.profiles_olt.vlan.", "vlan"},
-            {"pon.profiles_olt.address_table.", "address-table"},
-            {"pon.profiles_olt.pppoe_ia.", "pppoe-ia"},
-            {"pon.profiles_olt.dhcp_ra.", "dhcp-ra"},
-            {"pon.profiles_olt.dhcpv6_ra.", "dhcpv6-ra"},
-            {"pon.profiles_ont.shaping.", "shaping"},
-            {"pon.profiles_ont.cross_connect.", "cross-connect"},
-            {"pon.profiles_ont.alloc.", "dba"},
-            {"pon.profiles_ont.ports.", "ports"},
-            {"pon.profiles_ont.management.", "management"},
-            {"pon.profiles_ont.template_ont.", "template"},
-            {"pon.profiles_ont.voice.", "voice"},
+#define KIND(part, array, record, tables, lookup, prefix, name, called) {"pon." #part "." #array ".", name},
+            PON_PROFILE_KINDS(KIND)
+#undef KIND
         };
         for (const Kind& kind : kinds) {
             if (begins(field.path, kind.path)) {
@@ -203,7 +176,10 @@ class Injection : public testing::Test {
         return taken(GetBlockDiff(orig.get(), cfg.get(), begins(field.path, "pon.network.") ? network : olt));
     }
 
-    std::string full_script() { return taken(GetDiff(orig.get(), cfg.get())); }
+    std::string full_script()
+    {
+        return taken(GetDiff(orig.get(), cfg.get()));
+    }
 
     /// A session in which the record of the field differs in all that it holds, and nothing else does.
     void prepare(const TextField& field, Change change, Place place);
@@ -358,16 +334,14 @@ TEST(InjectedFields, AreAllTextsOfTheDescription)
     EXPECT_EQ(full_names(text_fields(referred_element)), texts);
 }
 
-/// An object that others refer to by its name: 14 kinds, of which 12 are profiles.
 TEST(InjectedFields, AreTheNamesOfAllKindsOfObjects)
 {
-    EXPECT_EQ(full_names(names(last_element)),
-              (std::set<std::string>{
-                  "GPonProfileOltAddressTable.name", "GPonProfileOltDhcpRa.name", "GPonProfileOltDhcpv6Ra.name",
-                  "GPonProfileOltPppoeIa.name", "GPonProfileOltVlan.name", "GPonProfileOntAlloc.name",
-                  "GPonProfileOntCrossConnect.name", "GPonProfileOntManagement.name", "GPonProfileOntPorts.name",
-                  "GPonProfileOntShaping.name", "GPonProfileOntVoice.name", "GPonTemplateOnt.name", "GSystemUser.name",
-                  "GVlanTagEx.name"}));
+    const std::set<std::string> expected = {"GSystemUser.name", "GVlanTagEx.name",
+#define NAME(part, array, record, ...) #record ".name",
+                                            PON_PROFILE_KINDS(NAME)
+#undef NAME
+    };
+    EXPECT_EQ(full_names(names(last_element)), expected);
 }
 
 TEST_F(Injection, ATextShowsAsItIs)

@@ -1,4 +1,5 @@
 #include "tests/support/program.h"
+#include "tool/profiles.h"
 
 #include <gmock/gmock.h>
 
@@ -26,8 +27,14 @@ class OnlyMistakes : public ProgramTest {
 
 constexpr char all_areas[] = "there are system, pon, ont:INDEX, port:N, profiles-olt, profiles-ont, profile:KIND, "
                              "profile:KIND:ID, block:NAME, alarm, routes and terminal-vlans";
-constexpr char all_kinds[] = "there are address-table, cross-connect, dba, dhcp-ra, dhcpv6-ra, management, ports, "
-                             "voice, pppoe-ia, shaping, vlan and template";
+const std::string all_kinds = [] {
+    std::string names;
+    for (const pondiff::tool::ProfileKind& kind : pondiff::tool::profile_kinds) {
+        names += std::string(", ") + kind.name;
+    }
+    names.replace(names.rfind(", "), 2, " and ");
+    return "there are " + names.substr(2);
+}();
 constexpr char all_blocks[] = "there are olt, network, backup, cli, config, management, ntp, snmp, ssh, source_guard, "
                               "telnet, logging, user and route";
 
@@ -47,10 +54,9 @@ TEST_F(OnlyMistakes, UnknownAreaListsThoseThatThereAre)
 TEST_F(OnlyMistakes, UnknownKindOfProfileListsThoseThatThereAre)
 {
     for (const char* const area : {"profile", "profile:", "profile::3", "profile:wan", "profile:wan:3"})
-        expect_mistake(area, std::string("no such kind of profile; ") + all_kinds);
-    expect_mistake("profile:alloc", std::string("no such kind of profile; ") + all_kinds);
-    expect_mistake("profile:dhcp_ra:0",
-                   std::string("no such kind of profile (did you mean \"dhcp-ra\"?); ") + all_kinds);
+        expect_mistake(area, "no such kind of profile; " + all_kinds);
+    expect_mistake("profile:alloc", "no such kind of profile; " + all_kinds);
+    expect_mistake("profile:dhcp_ra:0", "no such kind of profile (did you mean \"dhcp-ra\"?); " + all_kinds);
 }
 
 TEST_F(OnlyMistakes, UnknownBlockListsThoseThatThereAre)

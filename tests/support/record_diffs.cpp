@@ -1,5 +1,7 @@
 #include "tests/support/record_diffs.h"
 
+#include "pon/profile_kinds.h"
+
 #include <algorithm>
 #include <cstddef>
 #include <cstring>
@@ -197,18 +199,9 @@ void fill(GCfg& configuration, int objects)
     for (GVlanTagEx& vlan : pon.network.terminal_vlan)
         vlan.exists = 1;
     keep(pon.network.terminal_vlan, objects);
-    keep_existing(pon.profiles_olt.vlan, objects);
-    keep_existing(pon.profiles_olt.address_table, objects);
+#define KEEP_EXISTING(part, array, ...) keep_existing(pon.part.array, objects);
+    PON_PROFILE_KINDS(KEEP_EXISTING)
+#undef KEEP_EXISTING
     for (GPonProfileOltAddressTable& table : pon.profiles_olt.address_table)
         keep(table.svlan_config, objects);
-    keep_existing(pon.profiles_olt.pppoe_ia, objects);
-    keep_existing(pon.profiles_olt.dhcp_ra, objects);
-    keep_existing(pon.profiles_olt.dhcpv6_ra, objects);
-    keep_existing(pon.profiles_ont.shaping, objects);
-    keep_existing(pon.profiles_ont.cross_connect, objects);
-    keep_existing(pon.profiles_ont.alloc, objects);
-    keep_existing(pon.profiles_ont.ports, objects);
-    keep_existing(pon.profiles_ont.management, objects);
-    keep_existing(pon.profiles_ont.template_ont, objects);
-    keep_existing(pon.profiles_ont.voice, objects);
 }
