@@ -157,17 +157,19 @@ bool parse_line(std::string_view line, Scenario& scenario)
         return all && common;
     }
     if (verb == "call") {
-        std::optional<Call> call = parse_call(line);
-        if (call)
-            scenario.calls.push_back(*std::move(call));
+        const std::optional<Call> call = parse_call(line);
+        if (call) {
+            scenario.calls.push_back(*call);
+        }
         return call.has_value();
     }
     const auto* const word = std::find(std::begin(side_words), std::end(side_words), verb);
     if (word == std::end(side_words))
         return false;
-    std::optional<Patch> patch = parse_patch(static_cast<Patch::Side>(word - side_words), line);
-    if (patch)
-        scenario.patches.push_back(*std::move(patch));
+    const std::optional<Patch> patch = parse_patch(static_cast<Patch::Side>(word - side_words), line);
+    if (patch) {
+        scenario.patches.push_back(*patch);
+    }
     return patch.has_value();
 }
 

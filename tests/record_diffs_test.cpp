@@ -32,7 +32,6 @@ class Untyped : public DiffRun {
     Untyped(const RecordDiff& diff, const std::string& record) : before(record), after(record), diff_(diff)
     {
         std::fill(std::begin(key), std::end(key), 1);
-        may_sort = true; // a list of VLANs
     }
 
     Elements elements() { return run(diff_.diff, before.data(), after.data(), diff_.record.size); }
@@ -66,7 +65,12 @@ class RecordDiffs : public testing::Test {
         session.open();
     }
 
-    std::string blank(const RecordDiff& diff) const { return std::string(diff.record.size, '\0'); }
+    static std::string blank(const RecordDiff& diff)
+    {
+        std::string record;
+        record.resize(diff.record.size);
+        return record;
+    }
     std::string full(const RecordDiff& diff) const
     {
         return {reinterpret_cast<const char*>(session.cfg) + diff.record.offset, diff.record.size};

@@ -89,12 +89,12 @@ Session::~Session()
     print_common = 1;
 }
 
-void Session::open(int all, int common)
+void Session::open(int all, int common) const
 {
     ASSERT_EQ(initiate_diff(orig, cfg, all, common), 0);
 }
 
-std::string Session::full_diff()
+std::string Session::full_diff() const
 {
     return taken(GetDiff(orig, cfg));
 }

@@ -112,10 +112,10 @@ class Session {
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;
 
-    void open(int all = 0, int common = 0);
+    void open(int all = 0, int common = 0) const;
     /// Makes the two configurations equal to the new one, so that tests change one field from there.
-    void settle() { *orig = *cfg; }
-    std::string full_diff();
+    void settle() const { *orig = *cfg; }
+    std::string full_diff() const;
 
     std::unique_ptr<GCfg> orig_owner{new GCfg{}};
     std::unique_ptr<GCfg> cfg_owner{new GCfg{}};
