@@ -6,12 +6,13 @@
 Where the library is outside the loader's folders:
 
     LD_LIBRARY_PATH=$(pkg-config --variable=libdir pondiff) ./print_script.py running.bin wanted.bin
+
+The program pondiff reads the files and has to be in the PATH; JSON documents will do as well.
 """
 
 import ctypes
+import subprocess
 import sys
-
-RECORD_SIZE = 1821429
 
 pondiff = ctypes.CDLL("libpondiff.so.1")
 pondiff.initiate_diff_c.argtypes = [ctypes.c_void_p, ctypes.c_void_p, ctypes.c_int, ctypes.c_int]
@@ -24,11 +25,11 @@ libc.free.restype = None
 
 
 def read_record(path):
-    with open(path, "rb") as file:
-        content = file.read()
-    if len(content) != RECORD_SIZE:
-        sys.exit(f"{path}: not a record of {RECORD_SIZE} bytes")
-    return ctypes.create_string_buffer(content, RECORD_SIZE)
+    # The library cannot see how large a buffer is. The program returns a whole record, or reports why there is none.
+    packed = subprocess.run(["pondiff", "pack", path, "-o", "-"], stdout=subprocess.PIPE)
+    if packed.returncode != 0:
+        sys.exit(packed.returncode)
+    return ctypes.create_string_buffer(packed.stdout, len(packed.stdout))
 
 
 def script(running, wanted):

@@ -12,7 +12,6 @@ typedef struct __attribute__((packed)) GVlanTag {
     u16 vid;
     u8 prio; /* 802.1p priority */
 } GVlanTag, GVlanTag_t;
-static_assert(sizeof(GVlanTag) == 5, "size of GVlanTag");
 
 /* A terminal VLAN: a named tag that cross-connect profiles refer to. */
 typedef struct __attribute__((packed)) GVlanTagEx {
@@ -21,7 +20,6 @@ typedef struct __attribute__((packed)) GVlanTagEx {
     GChar_t name[GCFG_NAME_SIZE];
     GVlanTag tag;
 } GVlanTagEx, GVlanTagEx_t;
-static_assert(sizeof(GVlanTagEx) == 26, "size of GVlanTagEx");
 
 typedef struct __attribute__((packed)) GPonNetworkCfg {
     u32 revision;
@@ -32,6 +30,5 @@ typedef struct __attribute__((packed)) GPonNetworkCfg {
     u8 mccos;                  /* class of service of multicast */
     GVlanTagEx terminal_vlan[GCFG_TERMINAL_VLANS];
 } GPonNetworkCfg, GPonNetworkCfg_t;
-static_assert(sizeof(GPonNetworkCfg) == 847, "size of GPonNetworkCfg");
 
 #endif

@@ -16,7 +16,6 @@ typedef struct __attribute__((packed)) GPonOltGeneralActivationCfg {
     GBool_t auto_reconfigure_olt;     /* reconfigure the OLT automatically */
     GBool_t alt_activation_mode;      /* on = ONT passwords are sent in traps */
 } GPonOltGeneralActivationCfg, GPonOltGeneralActivationCfg_t;
-static_assert(sizeof(GPonOltGeneralActivationCfg) == 16, "size of GPonOltGeneralActivationCfg");
 
 /* OLT redundancy. Held for the device software; has no commands. */
 typedef struct __attribute__((packed)) GPonOltGeneralRedundancyCfg {
@@ -26,7 +25,6 @@ typedef struct __attribute__((packed)) GPonOltGeneralRedundancyCfg {
     u16 peer_port;
     GEnabled_t net_channel[GCFG_GPON_PORTS]; /* by GPON port */
 } GPonOltGeneralRedundancyCfg, GPonOltGeneralRedundancyCfg_t;
-static_assert(sizeof(GPonOltGeneralRedundancyCfg) == 26, "size of GPonOltGeneralRedundancyCfg");
 
 typedef struct __attribute__((packed)) GPonOltGeneralL3DHCPCfg {
     GBool_t exist; /* 0 = absent */
@@ -43,7 +41,6 @@ typedef struct __attribute__((packed)) GPonOltGeneralL3DHCPCfg {
     u8 trusted_secondary[4];
     u16 trusted_server_timeout;
 } GPonOltGeneralL3DHCPCfg, GPonOltGeneralL3DHCPCfg_t;
-static_assert(sizeof(GPonOltGeneralL3DHCPCfg) == 542, "size of GPonOltGeneralL3DHCPCfg");
 
 typedef struct __attribute__((packed)) GPonOltGeneralL3PPPoECfg {
     GBool_t pppoe_plus_enabled;
@@ -56,14 +53,12 @@ typedef struct __attribute__((packed)) GPonOltGeneralL3PPPoECfg {
     u32 bc_packet_per_second;  /* flood protection: packet limit */
     u32 port_block_time;       /* flood protection: blocking time */
 } GPonOltGeneralL3PPPoECfg, GPonOltGeneralL3PPPoECfg_t;
-static_assert(sizeof(GPonOltGeneralL3PPPoECfg) == 536, "size of GPonOltGeneralL3PPPoECfg");
 
 /* Layer-3 DHCP and PPPoE settings. Held for the device software; has no commands. */
 typedef struct __attribute__((packed)) GPonOltGeneralL3Cfg {
     GPonOltGeneralL3DHCPCfg dhcp[GCFG_L3_DHCP_ENTRIES]; /* by VLAN */
     GPonOltGeneralL3PPPoECfg pppoe;
 } GPonOltGeneralL3Cfg, GPonOltGeneralL3Cfg_t;
-static_assert(sizeof(GPonOltGeneralL3Cfg) == 9208, "size of GPonOltGeneralL3Cfg");
 
 /* The DHCP relay profile of one VLAN, in place of the default one. */
 typedef struct __attribute__((packed)) GPonOltDhcpraCfgByVid {
@@ -71,7 +66,6 @@ typedef struct __attribute__((packed)) GPonOltDhcpraCfgByVid {
     u16 vid;
     GProfileIndex_t profile; /* DHCP relay agent profile */
 } GPonOltDhcpraCfgByVid, GPonOltDhcpraCfgByVid_t;
-static_assert(sizeof(GPonOltDhcpraCfgByVid) == 6, "size of GPonOltDhcpraCfgByVid");
 
 /* The DHCPv6 relay profile of one VLAN, in place of the default one. */
 typedef struct __attribute__((packed)) GPonOltDhcpv6raCfgByVid {
@@ -79,26 +73,22 @@ typedef struct __attribute__((packed)) GPonOltDhcpv6raCfgByVid {
     u16 vid;
     GProfileIndex_t profile; /* DHCPv6 relay agent profile */
 } GPonOltDhcpv6raCfgByVid, GPonOltDhcpv6raCfgByVid_t;
-static_assert(sizeof(GPonOltDhcpv6raCfgByVid) == 6, "size of GPonOltDhcpv6raCfgByVid");
 
 typedef struct __attribute__((packed)) GPonOltGeneralDatapathCfg {
     GDatapathConfigModel_t model; /* counted from 0, the CLI counts from 1 */
     u16 broadcast_gem_port;
     u16 multicast_gem_port;
 } GPonOltGeneralDatapathCfg, GPonOltGeneralDatapathCfg_t;
-static_assert(sizeof(GPonOltGeneralDatapathCfg) == 6, "size of GPonOltGeneralDatapathCfg");
 
 /* Encryption of GEM frames. */
 typedef struct __attribute__((packed)) GPonOntEncryption {
     GBool_t enable;
     u16 key_update_interval;
 } GPonOntEncryption, GPonOntEncryption_t;
-static_assert(sizeof(GPonOntEncryption) == 4, "size of GPonOntEncryption");
 
 typedef struct __attribute__((packed)) GPonOltGeneralDBAShortCycle {
     GEnabled_t gpon_port[GCFG_GPON_PORTS]; /* ports go in pairs 0-1 to 6-7: the even one's flag counts for both */
 } GPonOltGeneralDBAShortCycle, GPonOltGeneralDBAShortCycle_t;
-static_assert(sizeof(GPonOltGeneralDBAShortCycle) == 16, "size of GPonOltGeneralDBAShortCycle");
 
 typedef struct __attribute__((packed)) GPonOltGeneralCfg {
     u32 revision;
@@ -126,7 +116,6 @@ typedef struct __attribute__((packed)) GPonOltGeneralCfg {
     GBool_t alarm_ont_battery_low_enabled;
     GPonOltGeneralDBAShortCycle dba_short_cycle;
 } GPonOltGeneralCfg, GPonOltGeneralCfg_t;
-static_assert(sizeof(GPonOltGeneralCfg) == 9510, "size of GPonOltGeneralCfg");
 
 /* Timing of one port's burst-mode receiver and laser, in the units of the optics hardware. */
 typedef struct __attribute__((packed)) GPonOltGeneralOpticsCfg {
@@ -182,7 +171,6 @@ typedef struct __attribute__((packed)) GPonOltGeneralOpticsCfg {
     GOpticsVoltageInterface_t voltage_if_mode;
     u32 rssi_trigger_pulse_width;
 } GPonOltGeneralOpticsCfg, GPonOltGeneralOpticsCfg_t;
-static_assert(sizeof(GPonOltGeneralOpticsCfg) == 73, "size of GPonOltGeneralOpticsCfg");
 
 /* One GPON port. */
 typedef struct __attribute__((packed)) GPonOltChannelCfg {
@@ -199,12 +187,10 @@ typedef struct __attribute__((packed)) GPonOltChannelCfg {
     GBool_t unknown_multicast_forward;
     u8 unknown_multicast_forward_gem_port; /* GEM port type, named by GPonGEMPortType_enum */
 } GPonOltChannelCfg, GPonOltChannelCfg_t;
-static_assert(sizeof(GPonOltChannelCfg) == 97, "size of GPonOltChannelCfg");
 
 typedef struct __attribute__((packed)) GPonOltCfg {
     GPonOltGeneralCfg general;
     GPonOltChannelCfg channel[GCFG_GPON_PORTS];
 } GPonOltCfg, GPonOltCfg_t;
-static_assert(sizeof(GPonOltCfg) == 10286, "size of GPonOltCfg");
 
 #endif

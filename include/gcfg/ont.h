@@ -14,13 +14,11 @@ typedef struct __attribute__((packed)) GPonOntCustomCrossConnect {
     u8 cos;
     s16 svid; /* service VLAN, -1 = unused */
 } GPonOntCustomCrossConnect, GPonOntCustomCrossConnect_t;
-static_assert(sizeof(GPonOntCustomCrossConnect) == 7, "size of GPonOntCustomCrossConnect");
 
 /* Selective tunnel of one service. */
 typedef struct __attribute__((packed)) GPonOntSelectiveTunnel {
     s16 uvid[GCFG_TUNNEL_VIDS]; /* user VLAN ids; -1 ends the list, a full list has no end mark */
 } GPonOntSelectiveTunnel, GPonOntSelectiveTunnel_t;
-static_assert(sizeof(GPonOntSelectiveTunnel) == 84, "size of GPonOntSelectiveTunnel");
 
 /* Power over Ethernet of one UNI port. */
 typedef struct __attribute__((packed)) GPonUniPoE {
@@ -38,7 +36,6 @@ typedef struct __attribute__((packed)) GPonOntPort {
     GBool_t shutdown;
     GPonUniPoE poe;
 } GPonOntPort, GPonOntPort_t;
-static_assert(sizeof(GPonOntPort) == 12, "size of GPonOntPort");
 
 /* One telephone port. */
 typedef struct __attribute__((packed)) GPonOntVoicePort {
@@ -51,14 +48,12 @@ typedef struct __attribute__((packed)) GPonOntVoicePort {
     s8 physical_gain_tx;
     s8 physical_gain_rx;
 } GPonOntVoicePort, GPonOntVoicePort_t;
-static_assert(sizeof(GPonOntVoicePort) == 105, "size of GPonOntVoicePort");
 
 typedef struct __attribute__((packed)) GPonOntVoiceIpHost {
     u8 static_ip[4];
     u8 static_mask[4];
     u8 static_gateway[4];
 } GPonOntVoiceIpHost, GPonOntVoiceIpHost_t;
-static_assert(sizeof(GPonOntVoiceIpHost) == 12, "size of GPonOntVoiceIpHost");
 
 /* Features are bit sets; the bits are listed from bit 0 on. */
 typedef struct __attribute__((packed)) GPonOntVoiceVoip {
@@ -73,14 +68,12 @@ typedef struct __attribute__((packed)) GPonOntVoiceVoip {
     GBool_t tone_events;
     GBool_t dtmf_events;
 } GPonOntVoiceVoip, GPonOntVoiceVoip_t;
-static_assert(sizeof(GPonOntVoiceVoip) == 16, "size of GPonOntVoiceVoip");
 
 typedef struct __attribute__((packed)) GPonOntVoiceCfg {
     GPonOntVoicePort voice_port[GCFG_VOICE_PORTS];
     GPonOntVoiceIpHost voice_iphost;
     GPonOntVoiceVoip voip;
 } GPonOntVoiceCfg, GPonOntVoiceCfg_t;
-static_assert(sizeof(GPonOntVoiceCfg) == 238, "size of GPonOntVoiceCfg");
 
 typedef struct __attribute__((packed)) GPonOntCfg {
     u32 revision;
@@ -111,6 +104,5 @@ typedef struct __attribute__((packed)) GPonOntCfg {
     GPonOntVoiceCfg voice;
     GPonOntPort port[GCFG_UNI_PORTS];
 } GPonOntCfg, GPonOntCfg_t;
-static_assert(sizeof(GPonOntCfg) == 2122, "size of GPonOntCfg");
 
 #endif

@@ -15,7 +15,6 @@ typedef struct __attribute__((packed)) GVlanGeneralCfg {
     u16_HEX_t insertion_svlan_ethertype; /* of an S-VLAN tag that is inserted */
     u16_HEX_t insertion_cvlan_ethertype; /* of a C-VLAN tag that is inserted */
 } GVlanGeneralCfg, GVlanGeneralCfg_t;
-static_assert(sizeof(GVlanGeneralCfg) == 8, "size of GVlanGeneralCfg");
 
 typedef struct __attribute__((packed)) GPonProfileOltVlan {
     u32 revision;
@@ -31,7 +30,6 @@ typedef struct __attribute__((packed)) GAddressTableConfig {
     GBool_t discard_pid_unlearned_sa; /* discard source addresses that are unknown on the port-ID */
     u32 aging_timer;
 } GAddressTableConfig, GAddressTableConfig_t;
-static_assert(sizeof(GAddressTableConfig) == 8, "size of GAddressTableConfig");
 
 typedef struct __attribute__((packed)) GSvlanAddressTableConfig {
     GBool_t exist; /* 0 = absent */
@@ -42,7 +40,6 @@ typedef struct __attribute__((packed)) GSvlanAddressTableConfig {
     GBool_t use_pbits; /* the priority bits are part of the table's key */
     GBool_t discard_unknown;
 } GSvlanAddressTableConfig, GSvlanAddressTableConfig_t;
-static_assert(sizeof(GSvlanAddressTableConfig) == 14, "size of GSvlanAddressTableConfig");
 
 typedef struct __attribute__((packed)) GPonProfileOltAddressTable {
     u32 revision;
@@ -122,6 +119,5 @@ typedef struct __attribute__((packed)) GPonProfilesOlt {
     GPonProfileOltDhcpRa dhcp_ra[GCFG_OLT_PROFILES];
     GPonProfileOltDhcpv6Ra dhcpv6_ra[GCFG_OLT_PROFILES];
 } GPonProfilesOlt, GPonProfilesOlt_t;
-static_assert(sizeof(GPonProfilesOlt) == 327360, "size of GPonProfilesOlt");
 
 #endif

@@ -192,7 +192,6 @@ typedef struct __attribute__((packed)) GPonVeipPort {
     GBool_t multicast_enable;
     GPonMulticastClientPortSettings multicast_port_settings;
 } GPonVeipPort, GPonVeipPort_t;
-static_assert(sizeof(GPonVeipPort) == 18, "size of GPonVeipPort");
 
 typedef struct __attribute__((packed)) GPonProfileOntPorts {
     u32 revision;
@@ -288,6 +287,5 @@ typedef struct __attribute__((packed)) GPonProfilesOnt {
     GPonTemplateOnt template_ont[GCFG_ONT_PROFILES];
     GPonProfileOntVoice voice[GCFG_ONT_PROFILES];
 } GPonProfilesOnt, GPonProfilesOnt_t;
-static_assert(sizeof(GPonProfilesOnt) == 311264, "size of GPonProfilesOnt");
 
 #endif

@@ -20,7 +20,6 @@ typedef struct __attribute__((packed)) GSystemNetworkCfg {
     u8 ACSMask[4];
     u16 ACSVid; /* VLAN id of the auto-configuration server */
 } GSystemNetworkCfg, GSystemNetworkCfg_t;
-static_assert(sizeof(GSystemNetworkCfg) == 286, "size of GSystemNetworkCfg");
 
 typedef struct __attribute__((packed)) GSystemUserGroup {
     GBool_t exist; /* 0 = absent */
@@ -51,7 +50,6 @@ typedef struct __attribute__((packed)) GSystemHttpCfg {
     GBool_t access_control; /* on = only sources in the allow list may connect */
     GSystemServiceAllow allow[GCFG_ALLOW_ENTRIES];
 } GSystemHttpCfg, GSystemHttpCfg_t;
-static_assert(sizeof(GSystemHttpCfg) == 88, "size of GSystemHttpCfg");
 
 typedef struct __attribute__((packed)) GSystemHttpsCfg {
     u32 revision;
@@ -59,7 +57,6 @@ typedef struct __attribute__((packed)) GSystemHttpsCfg {
     GBool_t access_control; /* on = only sources in the allow list may connect */
     GSystemServiceAllow allow[GCFG_ALLOW_ENTRIES];
 } GSystemHttpsCfg, GSystemHttpsCfg_t;
-static_assert(sizeof(GSystemHttpsCfg) == 88, "size of GSystemHttpsCfg");
 
 typedef struct __attribute__((packed)) GSystemTelnetCfg {
     u32 revision;
@@ -67,7 +64,6 @@ typedef struct __attribute__((packed)) GSystemTelnetCfg {
     GBool_t access_control; /* on = only sources in the allow list may connect */
     GSystemServiceAllow allow[GCFG_ALLOW_ENTRIES];
 } GSystemTelnetCfg, GSystemTelnetCfg_t;
-static_assert(sizeof(GSystemTelnetCfg) == 88, "size of GSystemTelnetCfg");
 
 typedef struct __attribute__((packed)) GSystemSshCfg {
     u32 revision;
@@ -75,7 +71,6 @@ typedef struct __attribute__((packed)) GSystemSshCfg {
     GBool_t access_control; /* on = only sources in the allow list may connect */
     GSystemServiceAllow allow[GCFG_ALLOW_ENTRIES];
 } GSystemSshCfg, GSystemSshCfg_t;
-static_assert(sizeof(GSystemSshCfg) == 88, "size of GSystemSshCfg");
 
 typedef struct __attribute__((packed)) GSystemSnmpTrap {
     GSnmpTrapType_t type;
@@ -109,7 +104,6 @@ typedef struct __attribute__((packed)) GSystemSnmpCfg {
     GChar_t private_cfg[512];
     GChar_t binary_cfg[512];
 } GSystemSnmpCfg, GSystemSnmpCfg_t;
-static_assert(sizeof(GSystemSnmpCfg) == 3629, "size of GSystemSnmpCfg");
 
 /* The lowest severity that is sent to each destination. */
 typedef struct __attribute__((packed)) GSystemLogDestCfg {
@@ -127,7 +121,6 @@ typedef struct __attribute__((packed)) GSystemSyslogCfg {
     u32 size; /* of the log buffer */
     GSystemLogDestCfg destinations;
 } GSystemSyslogCfg, GSystemSyslogCfg_t;
-static_assert(sizeof(GSystemSyslogCfg) == 22, "size of GSystemSyslogCfg");
 
 typedef struct __attribute__((packed)) GSystemNtpCfg {
     u32 revision;
@@ -137,7 +130,6 @@ typedef struct __attribute__((packed)) GSystemNtpCfg {
     s16 timezone; /* signed offset */
     GBool_t daylightsaving;
 } GSystemNtpCfg, GSystemNtpCfg_t;
-static_assert(sizeof(GSystemNtpCfg) == 16, "size of GSystemNtpCfg");
 
 typedef struct __attribute__((packed)) GSystemAlarmTypeCfg {
     u32 revision;
@@ -166,13 +158,11 @@ typedef struct __attribute__((packed)) GSystemAlarmCfg {
     GSystemAlarmTypeCfg type[GCFG_ALARM_TYPES];
     GSystemAlarmSystemCfg cfg;
 } GSystemAlarmCfg, GSystemAlarmCfg_t;
-static_assert(sizeof(GSystemAlarmCfg) == 801, "size of GSystemAlarmCfg");
 
 typedef struct __attribute__((packed)) GSystemWebCfg {
     u32 revision;
     u32 session_timeout;
 } GSystemWebCfg, GSystemWebCfg_t;
-static_assert(sizeof(GSystemWebCfg) == 8, "size of GSystemWebCfg");
 
 /* The columns of the CLI's list of ONTs. */
 typedef struct __attribute__((packed)) GCustomOntListShowing {
@@ -201,7 +191,6 @@ typedef struct __attribute__((packed)) GSystemCliCfg {
     GCustomOntListShowing custom_ont_list_showing;
     u8 number_of_cli_sessions; /* upper limit */
 } GSystemCliCfg, GSystemCliCfg_t;
-static_assert(sizeof(GSystemCliCfg) == 41, "size of GSystemCliCfg");
 
 typedef struct __attribute__((packed)) GSubmoduleLogCfg {
     u32 revision;
@@ -217,7 +206,6 @@ static_assert(sizeof(GSubmoduleLogCfg) == 16, "size of GSubmoduleLogCfg");
 typedef struct __attribute__((packed)) GSystemLogCfg {
     GSubmoduleLogCfg submodule[GCFG_LOG_SUBMODULES];
 } GSystemLogCfg, GSystemLogCfg_t;
-static_assert(sizeof(GSystemLogCfg) == 224, "size of GSystemLogCfg");
 
 /* Backup of the configuration to a server. */
 typedef struct __attribute__((packed)) GSystemTftpCfg {
@@ -227,14 +215,12 @@ typedef struct __attribute__((packed)) GSystemTftpCfg {
     s32 backup_on_timer_period;
     GChar_t backup_uri[256];
 } GSystemTftpCfg, GSystemTftpCfg_t;
-static_assert(sizeof(GSystemTftpCfg) == 268, "size of GSystemTftpCfg");
 
 typedef struct __attribute__((packed)) GSystemConfigCfg {
     u32 revision;
     GEnabled_t autosave;
     u8 autosave_hour;
 } GSystemConfigCfg, GSystemConfigCfg_t;
-static_assert(sizeof(GSystemConfigCfg) == 7, "size of GSystemConfigCfg");
 
 /* Auto-configuration server. Held for the device software; has no commands. */
 typedef struct __attribute__((packed)) GSystemAcsCfg {
@@ -254,7 +240,6 @@ typedef struct __attribute__((packed)) GSystemAcsCfg {
     u32 dhcp_max_lease_time;
     GBool_t dhcp_insert_option43;
 } GSystemAcsCfg, GSystemAcsCfg_t;
-static_assert(sizeof(GSystemAcsCfg) == 322, "size of GSystemAcsCfg");
 
 /* One authentication server. */
 typedef struct __attribute__((packed)) GSystemAuthNetCfg {
@@ -263,7 +248,6 @@ typedef struct __attribute__((packed)) GSystemAuthNetCfg {
     u16 timeout;
     GChar_t secret[256]; /* shared with the server */
 } GSystemAuthNetCfg, GSystemAuthNetCfg_t;
-static_assert(sizeof(GSystemAuthNetCfg) == 264, "size of GSystemAuthNetCfg");
 
 /* User authentication. Held for the device software; has no commands. */
 typedef struct __attribute__((packed)) GSystemAuthCfg {
@@ -275,7 +259,6 @@ typedef struct __attribute__((packed)) GSystemAuthCfg {
     GSystemAuthNetCfg server;
     GSystemAuthNetCfg radius_server;
 } GSystemAuthCfg, GSystemAuthCfg_t;
-static_assert(sizeof(GSystemAuthCfg) == 540, "size of GSystemAuthCfg");
 
 /* Fans. Held for the device software; has no commands. */
 typedef struct __attribute__((packed)) GSystemFanCfg {
@@ -284,7 +267,6 @@ typedef struct __attribute__((packed)) GSystemFanCfg {
     s8 fixed_speed;
     u8 min_speed;
 } GSystemFanCfg, GSystemFanCfg_t;
-static_assert(sizeof(GSystemFanCfg) == 14, "size of GSystemFanCfg");
 
 typedef struct __attribute__((packed)) GSystemRouteCfg {
     GBool_t exist; /* 0 = absent */
@@ -298,7 +280,6 @@ typedef struct __attribute__((packed)) GSystemRoutingCfg {
     u32 revision;
     GSystemRouteCfg route[GCFG_ROUTES];
 } GSystemRoutingCfg, GSystemRoutingCfg_t;
-static_assert(sizeof(GSystemRoutingCfg) == 5636, "size of GSystemRoutingCfg");
 
 /* Binds an address to a service of an ONT. */
 typedef struct __attribute__((packed)) GSystemSourceGuardBindCfg {
@@ -323,7 +304,6 @@ typedef struct __attribute__((packed)) GSystemSourceGuardCfg {
     GSystemSourceGuardBindCfg bind[GCFG_SOURCE_GUARD_BINDINGS];
     GSystemSourceGuardCfgVlanAllowed vid[GCFG_SOURCE_GUARD_VLANS]; /* slot = VLAN number */
 } GSystemSourceGuardCfg, GSystemSourceGuardCfg_t;
-static_assert(sizeof(GSystemSourceGuardCfg) == 26630, "size of GSystemSourceGuardCfg");
 
 typedef struct __attribute__((packed)) GSystemServices {
     GSystemHttpCfg http;
@@ -345,19 +325,16 @@ typedef struct __attribute__((packed)) GSystemServices {
     GSystemRoutingCfg routing;
     GSystemSourceGuardCfg source_guard;
 } GSystemServices, GSystemServices_t;
-static_assert(sizeof(GSystemServices) == 38510, "size of GSystemServices");
 
 typedef struct __attribute__((packed)) GSystemPrivilegeLevel {
     u8 privilege[17];
 } GSystemPrivilegeLevel, GSystemPrivilegeLevel_t;
-static_assert(sizeof(GSystemPrivilegeLevel) == 17, "size of GSystemPrivilegeLevel");
 
 typedef struct __attribute__((packed)) GSystemCommonSettings {
     u32 revision;
     GOntSnDisplayFormatType_t ont_sn_format; /* layout in which the CLI shows ONT serial numbers */
     GSystemPrivilegeLevel level[GCFG_PRIVILEGE_LEVELS];
 } GSystemCommonSettings, GSystemCommonSettings_t;
-static_assert(sizeof(GSystemCommonSettings) == 244, "size of GSystemCommonSettings");
 
 typedef struct __attribute__((packed)) GSystemCfg {
     GSystemNetworkCfg network;

@@ -1,13 +1,17 @@
 #!/usr/bin/env bash
-# Compares what the built libraries show to the outside with the lists kept beside this script.
+# Compares what a build folder holds with the lists kept beside this script.
 #
-#   exports_test.sh symbols LIBRARY PLATFORM    the exported symbols, those listed and no other
-#   exports_test.sh needed LIBRARY PLATFORM     the libraries that they load: libc alone, and the platform's
-#   exports_test.sh abi LIBRARY PLATFORM        types, sizes and offsets behind the symbols; skipped without abidiff
-#   exports_test.sh accept LIBRARY PLATFORM     makes what is built the new lists, for a change that is meant
+#   exports_test.sh symbols BUILD    the exported symbols of both libraries, those listed and no other
+#   exports_test.sh needed BUILD     the libraries that they load: libc alone, and the platform's
+#   exports_test.sh abi BUILD        types, sizes and offsets behind the symbols; skipped without abidiff
+#   exports_test.sh layout BUILD     the fields of every struct in include/gcfg; the size that README.md gives
+#   exports_test.sh accept BUILD     builds, and makes what is built the new lists, for a change that is meant; BUILD is
+#                                    a release of g++. Renews the size in README.md and the manual page too.
 set -euo pipefail
 here=$(cd "$(dirname "$0")" && pwd)
-action=$1 library=$2 platform=$3
+source=$(cd "$here/../.." && pwd)
+action=${1-} build=${2-}
+library=$build/pon/libpondiff.so platform=$build/platform/libpondiff-platform.so layout=$build/tests/records.layout
 export LC_ALL=C
 skipped=77
 
@@ -29,8 +33,23 @@ abi() {
         --type-id-style hash "$1"
 }
 
-tell_how_to_accept() {
-    [ $? -eq 0 ] || echo "If that is meant: tests/exports/exports_test.sh accept LIBRARY PLATFORM" >&2
+say_how_to_accept() {
+    [ $? -eq 0 ] || echo "If that is meant: tests/exports/exports_test.sh accept build/release" >&2
+}
+
+# The structs that the headers declare.
+structs() {
+    sed -nE 's/^(typedef )?struct (.* )?(\w+) \{$/\3/p' "$source"/include/gcfg/*.h | sort
+}
+
+# The structs that the whole configuration consists of.
+records() {
+    sed -n 's/^RECORD(\(.*\), .*/\1/p' "$layout" | sort
+}
+
+# The size of the whole configuration, "1,234,567".
+bytes_in_all() {
+    sed -n 's/^RECORD(GCfg, \(.*\))$/\1/p' "$layout" | sed ':again; s/\([0-9]\)\([0-9]\{3\}\)\(,\|$\)/\1,\2\3/; t again'
 }
 
 expect_needed() {
@@ -46,7 +65,7 @@ expect_needed() {
 
 case $action in
 symbols)
-    trap tell_how_to_accept EXIT
+    trap say_how_to_accept EXIT
     diff -u "$here/libpondiff.symbols" <(symbols "$library")
     diff -u "$here/libpondiff-platform.symbols" <(symbols "$platform")
     ;;
@@ -64,13 +83,29 @@ abi)
         echo "$library has no debug information, so its types cannot be compared" >&2
         exit 1
     fi
-    trap tell_how_to_accept EXIT
+    trap say_how_to_accept EXIT
     abidiff --harmless --suppressions "$here/abi.suppressions" "$here/libpondiff.abi" "$library"
     ;;
+layout)
+    diff -u --label include/gcfg --label "$layout" <(structs) <(records) || {
+        echo "A struct that is not part of GCfg has no description, so nothing holds its layout." >&2
+        exit 1
+    }
+    trap say_how_to_accept EXIT
+    diff -u "$here/records.layout" "$layout"
+    grep -q " $(bytes_in_all) bytes in all" "$source/README.md" || {
+        echo "README.md gives another size than $(bytes_in_all) bytes in all" >&2
+        exit 1
+    }
+    ;;
 accept)
+    cmake --build "$build"
     symbols "$library" >"$here/libpondiff.symbols"
     symbols "$platform" >"$here/libpondiff-platform.symbols"
     abi "$library" >"$here/libpondiff.abi"
+    cp "$layout" "$here/records.layout"
+    sed -i "s/[0-9,]* bytes in all/$(bytes_in_all) bytes in all/" "$source/README.md"
+    "$source/scripts/man-page" "$build/tool/pondiff" >"$source/docs/pondiff.1"
     ;;
 *)
     sed -n '2,${/^#/!q;s/^# \{0,1\}//p}' "$0" >&2

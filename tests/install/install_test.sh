@@ -59,7 +59,7 @@ consumers() {
     cp "$source/examples/python/print_script.py" .
     ln -s orig.bin running.bin
     ln -s cfg.bin wanted.bin
-    eval "$command" >python.script || fail "the command of the example in Python fails: $command"
+    PATH=$prefix/bin:$PATH eval "$command" >python.script || fail "the command of the example in Python fails: $command"
     expect_script python.script
 
     [ -f "$prefix/share/zsh/site-functions/_pondiff" ] || fail "zsh does not look where its completion is"

@@ -2,6 +2,7 @@
 
 #include "tests/support/program.h"
 
+#include <cstddef>
 #include <fmt/format.h>
 #include <gmock/gmock.h>
 
@@ -60,7 +61,7 @@ std::string pon(const std::string& fields)
 TEST_F(Check, BlankConfigurationIsInOrder)
 {
     expect_nothing("{}");
-    write("blank.bin", std::string(1821429, '\0'));
+    write("blank.bin", std::string(sizeof(GCfg), '\0'));
     EXPECT_EQ(run({"check", "blank.bin"}).status, 0);
 }
 
@@ -392,8 +393,8 @@ TEST_F(Check, StrictIsAnErrorWhereSomethingIsFound)
 
 TEST_F(Check, RecordAndStandardInput)
 {
-    std::string record(1821429, '\0');
-    record.replace(4, 5, "olt\"1");
+    std::string record(sizeof(GCfg), '\0');
+    record.replace(offsetof(GCfg, system.network.hostname), 5, "olt\"1");
     write("cfg.bin", record);
     EXPECT_EQ(run({"check", "cfg.bin"}).out, "cfg.bin: system.network.hostname: \"olt\\\"1\" holds a quote\n");
     Surroundings surroundings;
@@ -417,7 +418,7 @@ TEST_F(Check, ErrorsAreReported)
 TEST_F(Check, AnyRecordIsLookedAt)
 {
     std::string record;
-    for (unsigned i = 0; record.size() < 1821429; i++)
+    for (unsigned i = 0; record.size() < sizeof(GCfg); i++)
         record += static_cast<char>((i * 2654435761U) >> 24);
     write("odd.bin", record);
     const Outcome outcome = run({"check", "odd.bin"});

@@ -4,6 +4,8 @@
 /// @file
 /// What the tests of the program are written with: a folder of its own for each test, in which the built program runs.
 
+#include "gcfg/gcfg.h"
+
 #include <algorithm>
 #include <csignal>
 #include <cstdio>
@@ -54,6 +56,13 @@ inline Surroundings with_other_library(const std::string& variable, const std::s
                                 "ASAN_OPTIONS=" + (options ? options + std::string(":") : "") +
                                     "verify_asan_link_order=0"};
     return surroundings;
+}
+
+/// What the program reports of a file of `size` bytes that is neither a record nor a document.
+inline std::string no_configuration(std::size_t size)
+{
+    return "size is " + std::to_string(size) + ", but a record has " + std::to_string(sizeof(GCfg)) +
+           " bytes and a JSON document begins with '{'";
 }
 
 class ProgramTest : public ::testing::Test {

@@ -24,6 +24,7 @@
     static_assert(::pondiff::tool::belong(table, #record), #record ": a line is of another struct");                   \
     static_assert(::pondiff::tool::tile<record>(table), #record ": not a line for each field in its order");           \
     static_assert(::pondiff::tool::have_syntax(table), #record ": a line without its command, or a broken one");       \
+    static_assert(::std::is_same_v<record, record##_t>, #record "_t: not another name of the same struct");            \
     constexpr ::pondiff::tool::RecordOf<record> name(#record, table)
 
 namespace pondiff::tool {
@@ -389,6 +390,8 @@ constexpr RecordOf<Struct>::RecordOf(const char* struct_name, const Field (&tabl
              first_member(table, [](const Field& field) { return field.syntax.kind == Syntax::Kind::existence; })}
 {
     static_assert(N <= MAX_FIELDS);
+    static_assert(alignof(Struct) == 1, "packed");
+    static_assert(std::is_trivial_v<Struct> && std::is_standard_layout_v<Struct>, "the same in C");
 }
 
 } // namespace pondiff::tool
