@@ -11,9 +11,22 @@ set -euo pipefail
 here=$(cd "$(dirname "$0")" && pwd)
 source=$(cd "$here/../.." && pwd)
 action=${1-} build=${2-}
-library=$build/pon/libpondiff.so platform=$build/platform/libpondiff-platform.so layout=$build/tests/records.layout
 export LC_ALL=C
 skipped=77
+
+usage() {
+    sed -n '2,${/^#/!q;s/^# \{0,1\}//p}' "$0" >&2
+    exit 2
+}
+
+# The folder of what is built for one of the folders that are installed.
+built_for() {
+    echo "$build/$(sed -n "s/^CMAKE_INSTALL_$1:[^=]*=//p" "$build/CMakeCache.txt")"
+}
+
+[ -e "$build/CMakeCache.txt" ] || usage
+library=$(built_for LIBDIR)/libpondiff.so platform=$(built_for LIBDIR)/libpondiff-platform.so
+layout=$build/tests/records.layout
 
 # What a symbol is, its name and version, and the name as C++ writes it.
 symbols() {
@@ -27,10 +40,11 @@ symbols() {
         done | sort
 }
 
-# Without the places in the source: they are no part of the ABI.
+# Without the places in the source, which are no part of the ABI; a file is named from the top of the project, however
+# the compiler was started.
 abi() {
     abidw --no-corpus-path --no-comp-dir-path --no-show-locs --no-parameter-names --no-write-default-sizes \
-        --type-id-style hash "$1"
+        --type-id-style hash "$1" | sed "s|path='[./]*|path='./|"
 }
 
 say_how_to_accept() {
@@ -105,10 +119,7 @@ accept)
     abi "$library" >"$here/libpondiff.abi"
     cp "$layout" "$here/records.layout"
     sed -i "s/[0-9,]* bytes in all/$(bytes_in_all) bytes in all/" "$source/README.md"
-    "$source/scripts/man-page" "$build/tool/pondiff" >"$source/docs/pondiff.1"
+    "$source/scripts/man-page" "$(built_for BINDIR)/pondiff" >"$source/docs/pondiff.1"
     ;;
-*)
-    sed -n '2,${/^#/!q;s/^# \{0,1\}//p}' "$0" >&2
-    exit 2
-    ;;
+*) usage ;;
 esac
