@@ -13,6 +13,10 @@
  *     free(script);
  *     finalize_diff_c();
  *
+ * Signatures are shared with the device's software and stay as they are. So no parameter is const, although the library
+ * only reads names of profiles and blocks, and configurations with the exception below: a C++ caller who has a literal
+ * or a const record casts.
+ *
  * Ownership: the configurations belong to the caller, who keeps them unchanged while the session is open. They are only
  * read, with one exception: the selective-tunnel lists (pon.ont[].tunnel[].uvid) of the wanted configuration are sorted
  * in place where a diff shows them. Every text returned belongs to the caller, who releases it with free(); it is
@@ -50,6 +54,14 @@
 
 #include "gcfg/gcfg.h"
 
+/* The version of this header, and of the whole project: the build takes it from here. */
+#define PONDIFF_VERSION_MAJOR               0
+#define PONDIFF_VERSION_MINOR               1
+#define PONDIFF_VERSION_PATCH               0
+#define PONDIFF_VERSION_STRING              PONDIFF_JOINED(PONDIFF_VERSION_MAJOR, PONDIFF_VERSION_MINOR, PONDIFF_VERSION_PATCH)
+#define PONDIFF_JOINED(major, minor, patch) PONDIFF_QUOTED(major) "." PONDIFF_QUOTED(minor) "." PONDIFF_QUOTED(patch)
+#define PONDIFF_QUOTED(number)              #number
+
 #ifdef __cplusplus
 extern "C" {
 #endif
@@ -57,6 +69,12 @@ extern "C" {
 #if defined(__GNUC__)
 #pragma GCC visibility push(default)
 #endif
+
+/*
+ * The version of the library that has been loaded, such as "0.1.0": a constant. PONDIFF_VERSION_STRING is the one that
+ * the caller was compiled with.
+ */
+const char* pondiff_version(void);
 
 /*
  * Opens a session over the configuration that the device runs and the one wanted; one that is still open is closed

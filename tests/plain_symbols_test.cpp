@@ -74,6 +74,13 @@ class PlainSymbols : public testing::Test {
     GCfg* const cfg = session.cfg;
 };
 
+TEST(Version, OfTheLibraryIsThatOfItsHeader)
+{
+    EXPECT_STREQ(pondiff_version(), PONDIFF_VERSION_STRING);
+    EXPECT_EQ(pondiff_version(), std::to_string(PONDIFF_VERSION_MAJOR) + "." + std::to_string(PONDIFF_VERSION_MINOR) +
+                                     "." + std::to_string(PONDIFF_VERSION_PATCH));
+}
+
 TEST_F(PlainSymbols, SessionIsOpenedWithItsSwitchesNamesAndPosition)
 {
     current_view = {"if-ont-view", {130}};

@@ -7,6 +7,10 @@
 #ifndef GCFG_SCALARS_H
 #define GCFG_SCALARS_H
 
+#if !defined(__cplusplus) && (!defined(__STDC_VERSION__) || __STDC_VERSION__ < 201112L)
+#error "The configuration records need C11 or later: compile with -std=c11 or -std=gnu11."
+#endif
+
 #include <assert.h>
 #include <stdint.h>
 

@@ -1,6 +1,11 @@
 #include "pon/command_file_generator.h"
 #include "pondiff.h"
 
+const char* pondiff_version()
+{
+    return PONDIFF_VERSION_STRING;
+}
+
 // Each twin forwards unchanged. GetSystemDiff_c renders the PON part: callers depend on it.
 
 int initiate_diff_c(GCfg_t* orig, GCfg_t* cfg, int need_all_cfg, int common_type)
