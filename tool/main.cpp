@@ -74,6 +74,13 @@ void ignore_signals_of_failed_writes()
     std::signal(SIGXFSZ, SIG_IGN);
 }
 
+/// Without memory the program ends at once. An exception would not do: streams swallow it and go on with less text. Set
+/// before the static objects of the command line library are made.
+[[gnu::constructor(101)]] void end_when_memory_ends()
+{
+    std::set_new_handler(end_out_of_memory);
+}
+
 /// Sets the usage line apart from the description, as in a manual page, and shows arguments by their names alone.
 class ManualFormatter : public CLI::Formatter {
   public:
@@ -169,7 +176,7 @@ int main(int argc, char** argv)
     } catch (const UsageError& error) {
         report_error(error.what(), program.hint());
     } catch (const std::bad_alloc&) {
-        report_error("out of memory");
+        end_out_of_memory();
     } catch (const std::exception& error) {
         report_error(error.what());
     }

@@ -1,6 +1,10 @@
 #include "tool/messages.h"
 
+#include "tool/exit_status.h"
+#include "tool/visible.h"
+
 #include <cstdio>
+#include <cstdlib>
 #include <string>
 
 namespace pondiff::tool {
@@ -14,7 +18,7 @@ void print(const std::string& text)
 
 std::string line(std::string_view message)
 {
-    return "pondiff: " + std::string(message) + "\n";
+    return "pondiff: " + visible(message) + "\n";
 }
 
 } // namespace
@@ -27,6 +31,13 @@ void report_error(std::string_view message, std::string_view hint)
 void report_warning(std::string_view message)
 {
     print(line(message));
+}
+
+void end_out_of_memory()
+{
+    constexpr std::string_view message = "pondiff: out of memory\n";
+    std::fwrite(message.data(), 1, message.size(), stderr);
+    std::_Exit(static_cast<int>(ExitStatus::error));
 }
 
 } // namespace pondiff::tool

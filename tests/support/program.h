@@ -150,7 +150,7 @@ class ProgramTest : public ::testing::Test {
              setuid(nobody) != 0))
             std::abort();
         for (const auto& [number, file] : surroundings.descriptors)
-            if (dup2(file, number) < 0)
+            if (dup2(file, number) < 0 || fcntl(number, F_SETFD, 0) != 0) // it may have the number already
                 std::abort();
         for (const int descriptor : surroundings.closed)
             close(descriptor);

@@ -3,10 +3,10 @@
 #include "tool/commands/commands.h"
 #include "tool/files.h"
 #include "tool/input.h"
+#include "tool/visible.h"
 
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
-#include <iterator>
 #include <memory>
 #include <string>
 #include <vector>
@@ -58,8 +58,9 @@ ExitStatus run(Arguments& arguments)
         return ExitStatus::success;
     const std::string name = name_of_input(arguments.configuration);
     std::string text;
-    for (const Finding& finding : findings)
-        fmt::format_to(std::back_inserter(text), "{}: {}: {}\n", name, finding.path, finding.text);
+    for (const Finding& finding : findings) {
+        text += visible(fmt::format("{}: {}: {}", name, finding.path, finding.text)) + "\n";
+    }
     write_file(standard_stream, text);
     return arguments.strict ? ExitStatus::error : ExitStatus::found;
 }
