@@ -58,7 +58,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (chosen(data, size, 8)) {
         disturb(odd.orig(), odd.cfg());
         odd.patch(scenario.patches);
-        check(full_diff_of(odd, scenario) == text, "the text hangs on the records' addresses or on what went before");
+        check(full_diff_of(odd, scenario) == text, "the text depends on the records' addresses or on what went before");
         check_equal(even.cfg(), odd.cfg(), scenario);
         odd.check_patches();
         odd.restore(all_bytes);

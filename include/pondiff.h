@@ -22,7 +22,7 @@
  * in place where a diff shows them. Every text returned belongs to the caller, who releases it with free(); it is
  * NUL-terminated, one command per line, each line closed by a line feed.
  *
- * Errors: an operation whose text cannot be had whole for want of memory returns NULL, never a shortened script; the
+ * Errors: an operation that cannot allocate its whole text returns NULL, never a shortened script; the
  * session stays usable and the script's position is as before. A null record, profile or block name selects nothing:
  * the text holds what the operation prints for two equal records.
  *
@@ -78,7 +78,7 @@ const char* pondiff_version(void);
 
 /*
  * Opens a session over the configuration that the device runs and the one wanted; one that is still open is closed
- * first. Returns 0, or -1 when one of them is null or memory for the names of their objects cannot be had: no session
+ * first. Returns 0, or -1 when one of them is null or an allocation for the names of their objects fails: no session
  * is open then.
  */
 int initiate_diff_c(GCfg_t* orig, GCfg_t* cfg, int need_all_cfg, int common_type);

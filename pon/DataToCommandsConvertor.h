@@ -40,11 +40,11 @@ int goto_view_buf(const char* view, int* key, char* out);
 /// A copy of the template `command` in which each "$ID" and digit n stands replaced by the identifier `ids[n]` in four
 /// characters; some commands ("user $ID0 ...") show their first identifier as a name instead.
 /// @param ids  ten identifiers
-/// @return heap text, released with `free`; null when memory cannot be had
+/// @return heap text, released with `free`; null when the allocation fails
 char* useVariables(char* command, int* ids);
 
 /// `useVariables` into a buffer of the caller: at most `size` bytes, terminator included; an empty text when memory for
-/// a template of more than 1000 characters cannot be had. Always returns 0.
+/// a template of more than 1000 characters cannot be allocated. Always returns 0.
 int generate_command_buf(char* command, int* ids, char* output, std::size_t size);
 
 // ---------------------------------------------------------------------------------------------------- name tables

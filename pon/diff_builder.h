@@ -8,8 +8,8 @@
 /// and the list that it appends to. Unless `print_all` is set it returns at once when the two are equal byte for byte.
 /// For each command it pushes the navigation to the command's view, empty when the script stands there already, and
 /// then the command. The result carries no meaning. Records are only read, the selective-tunnel list excepted. Where
-/// memory for a navigation or a command cannot be had, the command is left out; no other one ever stands in a view that
-/// it does not belong to.
+/// memory for a navigation or a command cannot be allocated, the command is left out; no other one ever stands in a
+/// view that it does not belong to.
 
 #include "gcfg/gcfg.h"
 #include "pon/visibility.h"
@@ -61,7 +61,7 @@ extern template class List<char>;
 
 // ----------------------------------------------------------------------------------------------------- formatting
 
-/// Each returns a new zero-filled text that the caller releases with `free`; null when memory cannot be had.
+/// Each returns a new zero-filled text that the caller releases with `free`; null when the allocation fails.
 char* u32_tostr(unsigned int value);
 char* u16_tostr(unsigned short value);
 char* int_tostr(int value);
@@ -175,7 +175,7 @@ bool getdiff_GPonOntVoice(GPonOntVoiceCfg* lhs, GPonOntVoiceCfg* rhs, int* key, 
 // profiles_olt/: key[0]: the profile's index
 bool getdiff_GPonProfilesOlt(GPonProfilesOlt* lhs, GPonProfilesOlt* rhs, int* key, List<char>& out);
 bool getdiff_GPonProfileOltVlan(GPonProfileOltVlan* lhs, GPonProfileOltVlan* rhs, int* key, List<char>& out);
-/// Which direction the commands name hangs on key[1]: 0 uplink, else downlink.
+/// key[1] selects the direction that the commands name: 0 uplink, else downlink.
 bool getdiff_GVlanGeneralCfg(GVlanGeneralCfg* lhs, GVlanGeneralCfg* rhs, int* key, List<char>& out);
 bool getdiff_GPonProfileOltAddressTable(GPonProfileOltAddressTable* lhs, GPonProfileOltAddressTable* rhs, int* key,
                                         List<char>& out);

@@ -51,7 +51,7 @@ class Text {
     char* c_str();
     std::size_t size() const { return size_; }
     bool failed() const { return failed_; }
-    /// A copy on the heap that `free` releases; null when memory cannot be had or part of the text was lost.
+    /// A copy on the heap that `free` releases; null when the allocation fails or part of the text was lost.
     char* release_copy() const;
 
   private:

@@ -169,7 +169,7 @@ constexpr Row<Record> content(Member<Record, Type> field, const char* format, Va
     return row(field, RowData::Kind::content, format, {}, notation, digits);
 }
 
-/// Of 32 bits at the most: no record has wider ones.
+/// Of at most 32 bits: no record has wider ones.
 template <class Type>
 constexpr bool is_number = std::is_integral_v<Type> && sizeof(Type) <= sizeof(std::uint32_t);
 

@@ -74,7 +74,7 @@ Elements DiffRun::run(const AnyDiff& diff, void* before, void* after, std::size_
     print_all = 0;
     print_common = 1;
     current_view = state_before;
-    EXPECT_EQ(results[0], results[1]) << "the text hangs on the records' addresses";
+    EXPECT_EQ(results[0], results[1]) << "the text depends on the records' addresses";
     EXPECT_TRUE(std::equal(std::begin(keys[0]), std::end(keys[0]), keys[1]));
     std::copy(std::begin(keys[0]), std::end(keys[0]), key);
     return results[0];

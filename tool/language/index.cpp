@@ -487,9 +487,7 @@ bool Index::match(std::uint32_t node, std::size_t at, std::size_t captured, cons
 Match Index::find(const View& view, const Tokens& tokens) const
 {
     Match found;
-    if (!match(view.node, 0, 0, tokens, found)) {
-        found.pattern = nullptr;
-    }
+    match(view.node, 0, 0, tokens, found); // leaves no pattern where there is no such command
     return found;
 }
 

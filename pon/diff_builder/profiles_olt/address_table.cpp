@@ -16,7 +16,7 @@ bool getdiff_GAddressTableConfig(GAddressTableConfig* lhs, GAddressTableConfig* 
     return false;
 }
 
-/// Whether a slot is in use hangs on its S-VLAN, not on `exist`. No command removes the entry of an S-VLAN.
+/// The S-VLAN, not `exist`, decides whether a slot is in use. No command removes the entry of an S-VLAN.
 bool getdiff_GSvlanAddressTableConfig(GSvlanAddressTableConfig* lhs, GSvlanAddressTableConfig* rhs, int* key,
                                       List<char>& out)
 {
