@@ -113,9 +113,9 @@ class Marks {
 
     void mark(const Leaf& leaf, unsigned char* at, const std::string& text, bool in_orig, bool in_cfg)
     {
-        std::memset(at, 0, leaf.field.width);
-        const std::string mark = fmt::format("{}{:06x}", mark_begin, replaced_.size());
-        std::memcpy(at, mark.data(), mark.size());
+        std::string mark = fmt::format("{}{:06x}", mark_begin, replaced_.size());
+        mark.resize(leaf.field.width);
+        std::copy(mark.begin(), mark.end(), at);
         replaced_.push_back({&leaf.field, leaf.path.text(), text, in_orig, in_cfg});
     }
 

@@ -58,7 +58,7 @@ Piece piece_of(std::string_view word, std::string_view form)
     return piece;
 }
 
-/// The variants of a template: with and without each of its parts that may be left out.
+/// The variants of a template, with and without what may be left out.
 void expand(const std::string& form, std::vector<std::string>& variants)
 {
     const std::size_t open = form.find('[');
@@ -183,24 +183,25 @@ class Index::Builder {
             fail(field.name, "a key has two bytes at least"); // see Table::find
         }
         if (element.remove != nullptr) {
-            add_element_command(element.remove, Pattern::Does::remove, inner, nullptr);
+            add_element_command(element.remove, Pattern::Does::remove, field, inner, nullptr);
         }
         if (element.enter != nullptr) {
             const View* const view = add_view(View::Kind::object, &field, inner.array_offset);
             add_fixed(*view, "exit", Pattern::Does::leave);
-            add_element_command(element.enter, Pattern::Does::enter, inner, view);
+            add_element_command(element.enter, Pattern::Does::enter, field, inner, view);
             inner = Context{view};
         }
         describe(*field.record, inner);
     }
 
-    void add_element_command(const char* form, Pattern::Does does, const Context& context, const View* view)
+    void add_element_command(const char* form, Pattern::Does does, const Field& array, const Context& context,
+                             const View* view)
     {
         Pattern pattern;
         pattern.does = does;
-        pattern.field = context.array;
+        pattern.field = &array;
         pattern.view = view;
-        add(form, *context.array->record, context, pattern);
+        add(form, *array.record, context, pattern);
     }
 
     void add_commands(const Record& record, const Field& field, Context context)
@@ -292,7 +293,7 @@ class Index::Builder {
             pattern.array_offset = context.offset + pattern.field->offset; // the field itself
         }
         std::uint32_t node = view.node;
-        std::int8_t words = 0;
+        int words = 0;
         const auto capture = [&](std::string_view name) {
             tell(pattern, name, words, record, context, form);
             ++words;
@@ -303,7 +304,7 @@ class Index::Builder {
                 continue;
             }
             if (word.front() == '{') {
-                assign(pattern, word, *record, context, form);
+                assign(pattern, word, record, context, form);
                 continue;
             }
             const Piece piece = piece_of(word, form);
@@ -337,12 +338,10 @@ class Index::Builder {
     }
 
     /// What a placeholder means to the pattern.
-    void tell(Pattern& pattern, std::string_view name, std::int8_t word, const Record* record, const Context& context,
-              const std::string& form)
+    static void tell(Pattern& pattern, std::string_view name, int word, const Record* record, const Context& context,
+                     const std::string& form)
     {
-        if (name == "?") {
-            pattern.shown = word;
-        } else if (name == "#" && pattern.does == Pattern::Does::read) {
+        if (name == "?" || (name == "#" && pattern.does == Pattern::Does::read)) {
             pattern.shown = word;
         } else if (name == "#" || name == "##" || name == "#1") {
             if (context.array == nullptr) {
@@ -352,13 +351,13 @@ class Index::Builder {
             pattern.by_slot = name != "#";
             pattern.counted_from = name == "#1" ? 1 : 0;
         } else {
-            const Field& field = member(*record, name, form);
+            const Field& field = member(record, name, form);
             pattern.targets.push_back({&field, offset_of(field, context), word});
         }
     }
 
-    void assign(Pattern& pattern, std::string_view word, const Record& record, const Context& context,
-                const std::string& form)
+    static void assign(Pattern& pattern, std::string_view word, const Record* record, const Context& context,
+                       const std::string& form)
     {
         const std::size_t equals = word.find('=');
         if (equals == word.npos || word.back() != '}') {
@@ -370,14 +369,15 @@ class Index::Builder {
         pattern.targets.push_back({&field, offset_of(field, context), -1, number});
     }
 
-    static const Field& member(const Record& record, std::string_view name, const std::string& form)
+    static const Field& member(const Record* record, std::string_view name, const std::string& form)
     {
-        const Field* const found =
-            std::find_if(record.begin(), record.end(), [name](const Field& field) { return field.name == name; });
-        if (found == record.end()) {
-            fail(form, "a placeholder names no member of the record");
+        const Field* const end = record != nullptr ? record->end() : nullptr;
+        for (const Field* field = record != nullptr ? record->begin() : nullptr; field != end; ++field) {
+            if (field->name == name) {
+                return *field;
+            }
         }
-        return *found;
+        fail(form, "a placeholder names no member of the record");
     }
 
     std::uint32_t child(std::uint32_t node, std::uint32_t Node::*edge)
@@ -487,7 +487,7 @@ bool Index::match(std::uint32_t node, std::size_t at, std::size_t captured, cons
 Match Index::find(const View& view, const Tokens& tokens) const
 {
     Match found;
-    match(view.node, 0, 0, tokens, found); // leaves no pattern where there is no such command
+    match(view.node, 0, 0, tokens, found);
     return found;
 }
 

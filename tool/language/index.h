@@ -31,7 +31,7 @@ struct View {
 struct Target {
     const Field* field;
     std::uint32_t offset;      ///< from the array's element, or from the view's object where there is no array
-    std::int8_t word;          ///< which of the captured words is its value; -1: `constant` is
+    int word;                  ///< which of the captured words is its value; -1: `constant` is
     std::int64_t constant = 0; ///< a number; for a list or an address 0: empty
 };
 
@@ -54,10 +54,10 @@ struct Pattern {
     const Field* field = nullptr; ///< whose command it is
     const Field* array = nullptr; ///< of which an element is told
     std::uint32_t array_offset = 0;
-    std::int8_t element = -1;     ///< which of the captured words tells the element; -1: the first one is meant
+    int element = -1;             ///< which of the captured words tells the element; -1: the first one is meant
     bool by_slot = false;         ///< the element is told by its number, whatever the array says
     std::int8_t counted_from = 0; ///< the first number of an element
-    std::int8_t shown = -1;       ///< Does::read: the captured word; with flags: that of the bit
+    int shown = -1;               ///< Does::read: the captured word; with flags: that of the bit
     const View* view = nullptr;   ///< Does::enter: which one
     std::vector<Target> targets;
 };

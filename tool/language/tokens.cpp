@@ -14,8 +14,8 @@ bool is_blank(char c)
 /// Whether a character ends a word without quotes.
 constexpr std::array<bool, 256> ends_word = [] {
     std::array<bool, 256> ends{};
-    for (const unsigned char c : {' ', '\t', '"', '\0'}) {
-        ends[c] = true;
+    for (const char c : {' ', '\t', '"', '\0'}) {
+        ends[static_cast<unsigned char>(c)] = true;
     }
     return ends;
 }();
