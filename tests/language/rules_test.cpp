@@ -144,7 +144,7 @@ TEST(Rules, RemovedTerminalVlanLeavesNoPriorityBehind)
 TEST(Rules, FirstOfSeveralObjectsOfANameIsMeant)
 {
     const auto device = blank_configuration();
-    for (const std::size_t slot : {9, 4, 6}) {
+    for (const std::size_t slot : std::initializer_list<std::size_t>{9, 4, 6}) {
         make_exist(device->pon.profiles_ont.shaping, slot, "same");
     }
     make_exist(device->pon.profiles_ont.shaping, 1, "other");
