@@ -201,6 +201,7 @@ Area terminal_vlans(const Request& /*request*/)
 std::vector<std::string> port_numbers()
 {
     std::vector<std::string> numbers;
+    numbers.reserve(GCFG_GPON_PORTS);
     for (int i = 0; i < GCFG_GPON_PORTS; ++i) {
         numbers.push_back(std::to_string(i));
     }
