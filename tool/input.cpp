@@ -98,36 +98,42 @@ void Input::check(std::initializer_list<std::string_view> files) const
 
 std::unique_ptr<GCfg> Input::configuration(const std::string& file)
 {
-    return read(file).configuration;
+    std::unique_ptr<GCfg> result;
+    read(file, result);
+    return result;
 }
 
 std::pair<std::unique_ptr<GCfg>, std::unique_ptr<GCfg>> Input::configurations(const std::string& first,
                                                                               const std::string& second)
 {
-    Read one = read(first);
-    Read other = read(second);
-    if (other.is_text) {
-        take_slots_of(*one.configuration, *other.configuration);
-    } else if (one.is_text) {
-        take_slots_of(*other.configuration, *one.configuration);
+    std::pair<std::unique_ptr<GCfg>, std::unique_ptr<GCfg>> both;
+    const bool first_is_text = read(first, both.first);
+    const bool second_is_text = read(second, both.second);
+    if (second_is_text) {
+        take_slots_of(*both.first, *both.second);
+    } else if (first_is_text) {
+        take_slots_of(*both.second, *both.first);
     }
-    return {std::move(one.configuration), std::move(other.configuration)};
+    return both;
 }
 
-Input::Read Input::read(const std::string& file)
+bool Input::read(const std::string& file, std::unique_ptr<GCfg>& configuration)
 {
     base(); // a mistake in it is reported even when no text needs it
     const std::string name = name_of_input(file);
     const std::string content = read_file(file);
     switch (kind_of(content)) {
     case Kind::document:
-        return {from_document(content, name), false};
+        configuration = from_document(content, name);
+        return false;
     case Kind::record:
-        return {from_record(content), false};
+        configuration = from_record(content);
+        return false;
     case Kind::text:
         break;
     }
-    return {from_text(content, name), true};
+    configuration = from_text(content, name);
+    return true;
 }
 
 std::unique_ptr<GCfg> Input::from_text(std::string_view content, const std::string& name)

@@ -50,11 +50,8 @@ class Input {
     static std::string script(const std::string& file);
 
   private:
-    struct Read {
-        std::unique_ptr<GCfg> configuration;
-        bool is_text;
-    };
-    Read read(const std::string& file);
+    /// @return whether it was a text of commands
+    bool read(const std::string& file, std::unique_ptr<GCfg>& configuration);
     std::unique_ptr<GCfg> from_text(std::string_view content, const std::string& name);
     const GCfg* base();
 

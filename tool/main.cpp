@@ -170,11 +170,13 @@ std::string Program::hint() const
 int main(int argc, char** argv)
 {
     ignore_signals_of_failed_writes();
-    Program program;
     try {
-        return static_cast<int>(program.run(argc, argv));
-    } catch (const UsageError& error) {
-        report_error(error.what(), program.hint());
+        Program program;
+        try {
+            return static_cast<int>(program.run(argc, argv));
+        } catch (const UsageError& error) {
+            report_error(error.what(), program.hint());
+        }
     } catch (const std::bad_alloc&) {
         end_out_of_memory();
     } catch (const std::exception& error) {

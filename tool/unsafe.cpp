@@ -67,7 +67,6 @@ struct Replaced {
     const Field* field;
     std::string path;
     std::string text;
-    bool in_orig;
     bool in_cfg;
 };
 
@@ -95,13 +94,13 @@ class Marks {
         const std::string new_text(text_in(leaf.field, new_at));
         const bool same = old_text == new_text; // stays the same: it is no change
         if (is_marked(leaf.field, new_text)) {
-            mark(leaf, new_at, new_text, same, true);
+            mark(leaf, new_at, new_text, true);
             if (same) {
                 std::memcpy(old_at, new_at, leaf.field.width);
             }
         }
         if (!same && is_marked(leaf.field, old_text)) {
-            mark(leaf, old_at, old_text, true, false);
+            mark(leaf, old_at, old_text, false);
         }
     }
 
@@ -111,12 +110,12 @@ class Marks {
         return !unsafe_part(text).empty() || (names_object && !unquotable_part(text).empty());
     }
 
-    void mark(const Leaf& leaf, unsigned char* at, const std::string& text, bool in_orig, bool in_cfg)
+    void mark(const Leaf& leaf, unsigned char* at, const std::string& text, bool in_cfg)
     {
         std::string mark = fmt::format("{}{:06x}", mark_begin, replaced_.size());
         mark.resize(leaf.field.width);
         std::copy(mark.begin(), mark.end(), at);
-        replaced_.push_back({&leaf.field, leaf.path.text(), text, in_orig, in_cfg});
+        replaced_.push_back({&leaf.field, leaf.path.text(), text, in_cfg});
     }
 
     unsigned char* orig_;

@@ -55,7 +55,7 @@ struct Arguments {
 /// A text of commands carries what a device that reads it has afterwards.
 std::string text_with_warning(const GCfg& configuration, const std::string& name)
 {
-    const std::string text = text_of_commands(configuration);
+    std::string text = text_of_commands(configuration);
     const auto read_back = blank_configuration();
     read_script(text, *read_back, [](const Line& /*line*/) {});
     std::size_t lost = 0;
