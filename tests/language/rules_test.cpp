@@ -61,9 +61,9 @@ TEST(Rules, CreatedObjectTakesTheFirstFreeSlotAndIsBlank)
     EXPECT_EQ(read(*device, "configure terminal\nprofile vlan b\nexit\nprofile vlan d\n"), 0U);
     EXPECT_STREQ(profiles[1].name, "b");
     EXPECT_EQ(profiles[1].description[0], '\0');
-    EXPECT_EQ(profiles[1].config_general[0].extended_svlan_type, 0);
+    EXPECT_EQ(u16(profiles[1].config_general[0].extended_svlan_type), 0);
     EXPECT_STREQ(profiles[3].name, "d");
-    EXPECT_NE(profiles[3].exist, 0);
+    EXPECT_NE(u16(profiles[3].exist), 0);
 }
 
 TEST(Rules, EnteringAnObjectThatIsThereChangesNothing)
@@ -86,7 +86,7 @@ TEST(Rules, NamingAUserOrATerminalVlanCreatesIt)
     EXPECT_STREQ(device->system.user[0].password, "$1$x");
     EXPECT_STREQ(device->pon.network.terminal_vlan[0].name, "iptv");
     EXPECT_STREQ(device->pon.network.terminal_vlan[1].name, "voip");
-    EXPECT_EQ(device->pon.network.terminal_vlan[1].tag.prio, 5);
+    EXPECT_EQ(u16(device->pon.network.terminal_vlan[1].tag.prio), 5);
 }
 
 // ------------------------------------------------------------------------------------------------------------ removal
@@ -217,8 +217,8 @@ TEST(Rules, AlarmTakesTheFirstSlotWithoutAType)
     EXPECT_EQ(read(*device, "configure terminal\nalarm link in true\nalarm ram out true\n"), 0U);
     EXPECT_EQ(u32(alarms[1].type), 100U);
     EXPECT_EQ(u32(alarms[1].ttl), 0U);
-    EXPECT_NE(alarms[1].send_on_in, 0);
-    EXPECT_NE(alarms[0].send_on_out, 0);
+    EXPECT_NE(u16(alarms[1].send_on_in), 0);
+    EXPECT_NE(u16(alarms[0].send_on_out), 0);
 }
 
 // --------------------------------------------------------------------------------------------- several fields at once
@@ -238,16 +238,16 @@ TEST(Rules, WordThatDoesNotFollowIsOff)
                             "upstream broadcast storm-control shutdown\n"
                             "upstream multicast storm-control rate-limit 8 logging\n"),
               0U);
-    EXPECT_EQ(agent.circuit_id_mode, 0);
+    EXPECT_EQ(u16(agent.circuit_id_mode), 0);
     EXPECT_STREQ(agent.circuit_id_format, "%PONID%");
-    EXPECT_EQ(agent.remote_id_mode, 1);
+    EXPECT_EQ(u16(agent.remote_id_mode), 1);
     EXPECT_STREQ(agent.remote_id_format, "%CHANNELID%"); // as records have it
     EXPECT_EQ(u32(storm.broadcast_threshold), 500U);     // not shown, so as it was
-    EXPECT_EQ(storm.broadcast_logging, 0);
-    EXPECT_EQ(storm.broadcast_shutdown, 1);
+    EXPECT_EQ(u16(storm.broadcast_logging), 0);
+    EXPECT_EQ(u16(storm.broadcast_shutdown), 1);
     EXPECT_EQ(u32(storm.multicast_threshold), 8U);
-    EXPECT_EQ(storm.multicast_logging, 1);
-    EXPECT_EQ(storm.multicast_shutdown, 0);
+    EXPECT_EQ(u16(storm.multicast_logging), 1);
+    EXPECT_EQ(u16(storm.multicast_shutdown), 0);
 }
 
 TEST(Rules, OneCommandSetsBothSwitches)
@@ -256,11 +256,11 @@ TEST(Rules, OneCommandSetsBothSwitches)
     make_exist(device->pon.profiles_olt.dhcpv6_ra, 0, "d");
     GPonProfileOltDhcpv6Ra& agent = device->pon.profiles_olt.dhcpv6_ra[0];
     read(*device, "configure terminal\nprofile dhcpv6-ra d\nadd-suboptions\n");
-    EXPECT_NE(agent.write_interface_id_option, 0);
-    EXPECT_NE(agent.write_remote_id_option, 0);
+    EXPECT_NE(u16(agent.write_interface_id_option), 0);
+    EXPECT_NE(u16(agent.write_remote_id_option), 0);
     read(*device, "configure terminal\nprofile dhcpv6-ra d\nno add-suboptions\n");
-    EXPECT_EQ(agent.write_interface_id_option, 0);
-    EXPECT_EQ(agent.write_remote_id_option, 0);
+    EXPECT_EQ(u16(agent.write_interface_id_option), 0);
+    EXPECT_EQ(u16(agent.write_remote_id_option), 0);
 }
 
 TEST(Rules, OffFormOfAGroupClearsBothAddresses)

@@ -287,11 +287,11 @@ TEST_F(TextInput, BaseHasWhatNoCommandSays)
 })");
     EXPECT_EQ(run({"show", "saved.cli", "--base", "base.json"}).err, "");
     const auto configuration = configuration_in("saved.cli", {"--base", "base.json"});
-    EXPECT_EQ(configuration->system.services.web.session_timeout, 600);
-    EXPECT_EQ(configuration->pon.network.mcvlan, 77);
-    EXPECT_EQ(configuration->pon.network.terminal_vlan[0].tag.ethertype, 0x88A8);
-    EXPECT_EQ(configuration->pon.ont[70].auth_method, 2);
-    EXPECT_EQ(configuration->pon.profiles_ont.cross_connect[0].model, 2);
+    EXPECT_EQ(u32(configuration->system.services.web.session_timeout), 600U);
+    EXPECT_EQ(u16(configuration->pon.network.mcvlan), 77);
+    EXPECT_EQ(u16(configuration->pon.network.terminal_vlan[0].tag.ethertype), 0x88A8);
+    EXPECT_EQ(u16(configuration->pon.ont[70].auth_method), 2);
+    EXPECT_EQ(u16(configuration->pon.profiles_ont.cross_connect[0].model), 2);
     const std::set<std::string> filled_in{"system.services.web.session_timeout", "pon.ont.70.auth_method",
                                           "pon.profiles_ont.cross_connect.0.model",
                                           "pon.network.terminal_vlan.0.tag.ethertype", "pon.network.mcvlan"};
@@ -306,10 +306,10 @@ TEST_F(TextInput, SwitchWithACommandForOffAlone)
     write("base.json", R"({"pon": {"olt": {"channel": {"1": {"enabled": true, "fec_down": true},
                                                        "2": {"enabled": true}}}}})");
     const auto configuration = configuration_in("off.cli", {"--base", "base.json"});
-    EXPECT_EQ(configuration->pon.olt.channel[0].enabled, 0);
-    EXPECT_EQ(configuration->pon.olt.channel[1].enabled, 1);
-    EXPECT_EQ(configuration->pon.olt.channel[1].fec_down, 0);
-    EXPECT_EQ(configuration->pon.olt.channel[2].enabled, 0);
+    EXPECT_EQ(u16(configuration->pon.olt.channel[0].enabled), 0);
+    EXPECT_EQ(u16(configuration->pon.olt.channel[1].enabled), 1);
+    EXPECT_EQ(u16(configuration->pon.olt.channel[1].fec_down), 0);
+    EXPECT_EQ(u16(configuration->pon.olt.channel[2].enabled), 0);
 }
 
 TEST_F(TextInput, BaseConcernsEveryText)
