@@ -1,9 +1,8 @@
 #include "tool/describe/records.h"
 #include "tool/json/forms.h"
 #include "tool/json/json.h"
-#include "tool/json/words.h"
+#include "tool/json/values.h"
 
-#include <charconv>
 #include <cstring>
 
 namespace pondiff::tool {
@@ -13,14 +12,6 @@ namespace {
 bool is_zero(const unsigned char* at, std::size_t size)
 {
     return at[0] == 0 && std::memcmp(at, at + 1, size - 1) == 0;
-}
-
-template <class Number>
-void append_number(std::string& out, Number number)
-{
-    char digits[20];
-    const char* const end = std::to_chars(digits, digits + sizeof digits, number).ptr;
-    out.append(digits, static_cast<std::size_t>(end - digits));
 }
 
 class Writer {
@@ -62,7 +53,7 @@ class Writer {
         void key(std::size_t index)
         {
             separate();
-            append_number(writer_.out_, index);
+            append_number(writer_.out_, static_cast<std::int64_t>(index));
             writer_.out_ += "\": ";
         }
 
@@ -126,7 +117,7 @@ class Writer {
         } else if (field.array) {
             write_numbers(field, at);
         } else {
-            write_value(field, at);
+            append_value(out_, field, at);
         }
     }
 
@@ -184,7 +175,7 @@ class Writer {
             if (i > 0) {
                 out_ += ", ";
             }
-            write_value(field, at + i * field.width);
+            append_value(out_, field, at + i * field.width);
         }
         out_ += ']';
     }
@@ -196,7 +187,7 @@ class Writer {
             const unsigned char* const element = at + i * field.width;
             if (!is_zero(element, field.width)) {
                 object.key(i);
-                write_value(field, element);
+                append_value(out_, field, element);
             }
         }
         object.end();
@@ -217,10 +208,10 @@ class Writer {
             }
             if (!is_zero(flag, field.width)) {
                 slots.clear();
-                append_number(slots, first);
+                append_number(slots, static_cast<std::int64_t>(first));
                 if (next - first > 1) {
                     slots += '-';
-                    append_number(slots, next - 1);
+                    append_number(slots, static_cast<std::int64_t>(next - 1));
                 }
                 visit(slots, flag);
             }
@@ -245,99 +236,9 @@ class Writer {
         Object object(*this, false);
         for_each_run(field, at, [&](const std::string& slots, const unsigned char* value) {
             object.key(slots);
-            write_value(flag, value);
+            append_value(out_, flag, value);
         });
         object.end();
-    }
-
-    void write_value(const Field& field, const unsigned char* at)
-    {
-        switch (field.form) {
-        case Form::number:
-        case Form::reference:
-            append_number(out_, get_number(field, at));
-            break;
-        case Form::boolean:
-            write_boolean(get_number(field, at));
-            break;
-        case Form::enumeration:
-            write_enumeration(field, get_number(field, at));
-            break;
-        case Form::hexadecimal:
-            out_ += '"';
-            append_hexadecimal(out_, static_cast<std::uint32_t>(get_number(field, at)), field.width == 2 ? 4 : 1);
-            out_ += '"';
-            break;
-        case Form::text:
-        case Form::secret:
-            write_text(field, at);
-            break;
-        case Form::ipv4:
-            write_form(append_ipv4, at);
-            break;
-        case Form::ipv6:
-            write_form(append_ipv6, at);
-            break;
-        case Form::mac:
-            write_form(append_mac, at);
-            break;
-        case Form::serial:
-            write_form(append_serial, at);
-            break;
-        case Form::engine_id:
-            out_ += '"';
-            append_hex(out_, at, field.size);
-            out_ += '"';
-            break;
-        case Form::record:
-            break;
-        }
-    }
-
-    void write_form(void (*append)(std::string&, const unsigned char*), const unsigned char* at)
-    {
-        out_ += '"';
-        append(out_, at);
-        out_ += '"';
-    }
-
-    void write_boolean(std::int64_t value)
-    {
-        if (value == 0) {
-            out_ += "false";
-        } else if (value == 1) {
-            out_ += "true";
-        } else {
-            append_number(out_, value);
-        }
-    }
-
-    void write_enumeration(const Field& field, std::int64_t value)
-    {
-        const std::string_view word = words_of(field).word_of(value);
-        if (word.empty()) {
-            append_number(out_, value);
-        } else {
-            append_quoted(out_, word);
-        }
-    }
-
-    /// Text and nothing but zeros behind it reads as text; any other bytes are written as bytes, up to the last one
-    /// that is not zero.
-    void write_text(const Field& field, const unsigned char* at)
-    {
-        std::size_t used = field.size;
-        while (used > 0 && at[used - 1] == 0) {
-            used--;
-        }
-        const std::string_view text(reinterpret_cast<const char*>(at), used);
-        if (used < field.size && text.find('\0') == text.npos && is_utf8(text)) {
-            append_quoted(out_, text);
-            return;
-        }
-        out_ += "{\"hex\": \"";
-        append_hex(out_, at, used);
-        out_ += "\"}";
     }
 
     std::string out_;
