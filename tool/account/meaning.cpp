@@ -47,18 +47,6 @@ std::vector<std::int64_t> list_meant(const Field& field, const unsigned char* at
     return numbers;
 }
 
-/// A reference is the name of what it refers to, or none; a number that refers to nothing may mean itself.
-struct ReferenceMeant {
-    enum class Kind : std::uint8_t { none, name, number } kind;
-    std::string_view name;
-    std::int64_t number = 0;
-
-    bool operator==(const ReferenceMeant& other) const
-    {
-        return kind == other.kind && name == other.name && number == other.number;
-    }
-};
-
 ReferenceMeant object_meant(const Referred& to, std::size_t slot, const GCfg& configuration)
 {
     const auto* const object =
@@ -69,6 +57,8 @@ ReferenceMeant object_meant(const Referred& to, std::size_t slot, const GCfg& co
     const Field& name = *to.field->record->name_member;
     return {ReferenceMeant::Kind::name, text_in(name, object + name.offset)};
 }
+
+} // namespace
 
 ReferenceMeant reference_meant(const Field& field, const unsigned char* at, const GCfg& configuration)
 {
@@ -82,6 +72,8 @@ ReferenceMeant reference_meant(const Field& field, const unsigned char* at, cons
     }
     return object_meant(*to, static_cast<std::size_t>(slot), configuration);
 }
+
+namespace {
 
 /// Whether a number refers to the same name in both: then what is equal means the same.
 bool refer_alike(const GCfg& a, const GCfg& b)
@@ -102,6 +94,23 @@ const GCfg& blank()
     return *configuration;
 }
 
+/// A field of one of the configurations.
+struct One {
+    const unsigned char* at;
+    bool there; ///< whether the object that it belongs to is there
+    const GCfg& configuration;
+};
+
+bool same_field(const Field& field, const One& a, const One& b)
+{
+    const Syntax::Kind kind = field.syntax.kind;
+    if (kind == Syntax::Kind::existence) {
+        return a.there == b.there;
+    }
+    return (kind != Syntax::Kind::key || a.there == b.there) &&
+           means_the_same(field, a.at, a.configuration, b.at, b.configuration);
+}
+
 template <std::size_t N>
 class SideBySide {
   public:
@@ -120,6 +129,7 @@ class SideBySide {
         refer_alike_ = std::all_of(configurations.begin(), configurations.end(), [&](const GCfg* configuration) {
             return refer_alike(*configuration, *configurations[0]);
         });
+        element_ = places;
         compare(gcfg_record, places, there, reinterpret_cast<const unsigned char*>(&blank()));
     }
 
@@ -192,8 +202,10 @@ class SideBySide {
             return;
         }
         const std::size_t outer = std::exchange(object_, steps_ + 1);
+        const Places outer_element = std::exchange(element_, element);
         step(array, index, [&] { compare(*array.record, element, element_there, blank); });
         object_ = outer;
+        element_ = outer_element;
     }
 
     void compare_numbered(const Field& array, const Places& first, const There& there, const unsigned char* blank)
@@ -250,7 +262,7 @@ class SideBySide {
             }
             if (!mean_the_same(field, at, there)) {
                 path_.push(field, i);
-                visit_({field, at, there, path_, object_});
+                visit_({field, at, there, element_, path_, object_});
                 path_.pop();
             }
         }
@@ -258,18 +270,8 @@ class SideBySide {
 
     bool mean_the_same(const Field& field, const Places& at, const There& there) const
     {
-        if (field.syntax.kind == Syntax::Kind::existence || field.syntax.kind == Syntax::Kind::key) {
-            for (std::size_t i = 1; i < N; ++i) {
-                if (there[i] != there[0]) {
-                    return false;
-                }
-            }
-            if (field.syntax.kind == Syntax::Kind::existence) {
-                return true;
-            }
-        }
         for (std::size_t i = 1; i < N; ++i) {
-            if (!means_the_same(field, at[0], *configurations_[0], at[i], *configurations_[i])) {
+            if (!same_field(field, {at[0], there[0], *configurations_[0]}, {at[i], there[i], *configurations_[i]})) {
                 return false;
             }
         }
@@ -282,6 +284,7 @@ class SideBySide {
     Path path_;
     std::size_t steps_ = 0;
     std::size_t object_ = 0;
+    Places element_{};
 };
 
 } // namespace
@@ -306,6 +309,12 @@ bool means_the_same(const Field& field, const unsigned char* a, const GCfg& in_a
         return (get_number(field, a) != 0) == (get_number(field, b) != 0);
     }
     return is_text(field) && text_meant(field, a) == text_meant(field, b);
+}
+
+bool same_in(const Beside<3>& beside, const std::array<const GCfg*, 3>& configurations, std::size_t a, std::size_t b)
+{
+    return same_field(beside.field, {beside.at[a], beside.there[a], *configurations[a]},
+                      {beside.at[b], beside.there[b], *configurations[b]});
 }
 
 void for_each_different_meaning(const std::array<const GCfg*, 2>& configurations,

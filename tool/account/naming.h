@@ -1,0 +1,22 @@
+#ifndef TOOL_ACCOUNT_NAMING_H
+#define TOOL_ACCOUNT_NAMING_H
+
+#include "tool/describe/description.h"
+
+#include <string>
+
+namespace pondiff::tool {
+
+/// The object that the field at the end of a path belongs to: what has a view of its own, or is removed by its name;
+/// else the part of the configuration, two steps deep.
+Path object_path(const Path& field);
+
+/// How the CLI calls an object: `interface ont 1/6`, `profile shaping "gold"`; where it has no name, its path.
+std::string object_name(const Path& object, const unsigned char* configuration);
+
+/// What a person knows an object by besides: its serial number or its description; empty where it has none.
+std::string object_detail(const Path& object, const unsigned char* configuration);
+
+} // namespace pondiff::tool
+
+#endif
