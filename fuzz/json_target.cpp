@@ -1,8 +1,8 @@
 /// Any document to a configuration: it is read, or refused with a message; what was read is written and read again.
 
 #include "fuzz/checks.h"
-#include "tool/json/forms.h"
 #include "tool/json/json.h"
+#include "tool/utf8.h"
 
 #include <algorithm>
 #include <cstring>

@@ -94,7 +94,7 @@ std::optional<std::string> bytes_of(const tool::Field& field, std::string_view v
         quoted->resize(field.width);
         return quoted;
     }
-    const std::string mistake = tool::store(field, at, {tool::Value::Type::text, 0, value});
+    const std::string mistake = tool::store(field, at, {tool::JsonValue::Type::text, 0, value});
     return mistake.empty() ? std::optional<std::string>(bytes) : std::nullopt;
 }
 

@@ -6,6 +6,7 @@
 #include "tool/json/words.h"
 #include "tool/profiles.h"
 #include "tool/unsafe.h"
+#include "tool/utf8.h"
 #include "tool/visible.h"
 
 #include <algorithm>

@@ -5,6 +5,7 @@
 #include "tool/describe/records.h"
 #include "tool/json/forms.h"
 #include "tool/language/objects.h"
+#include "tool/utf8.h"
 #include "tool/visible.h"
 
 #include <algorithm>

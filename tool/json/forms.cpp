@@ -1,5 +1,7 @@
 #include "tool/json/forms.h"
 
+#include "tool/utf8.h"
+
 #include <arpa/inet.h>
 #include <array>
 #include <charconv>
@@ -10,8 +12,8 @@ namespace pondiff::tool {
 
 namespace {
 
-constexpr char UPPER_DIGITS[] = "0123456789ABCDEF";
-constexpr char LOWER_DIGITS[] = "0123456789abcdef";
+constexpr char upper_digits[] = "0123456789ABCDEF";
+constexpr char lower_digits[] = "0123456789abcdef";
 
 void append_byte(std::string& out, unsigned char byte, const char* digits)
 {
@@ -33,7 +35,7 @@ int digit_value(char c)
 
 bool is_vendor(const char* characters)
 {
-    for (int i = 0; i < 4; i++) {
+    for (int i = 0; i < 4; ++i) {
         const char c = characters[i];
         if (!((c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9'))) {
             return false;
@@ -56,7 +58,7 @@ bool parse_address(int family, std::string_view text, unsigned char* bytes)
 
 void append_ipv4(std::string& out, const unsigned char* bytes)
 {
-    for (int i = 0; i < 4; i++) {
+    for (int i = 0; i < 4; ++i) {
         char digits[3];
         if (i != 0) {
             out += '.';
@@ -84,11 +86,11 @@ bool parse_ipv6(std::string_view text, unsigned char* bytes)
 
 void append_mac(std::string& out, const unsigned char* bytes)
 {
-    for (int i = 0; i < 6; i++) {
+    for (int i = 0; i < 6; ++i) {
         if (i > 0) {
             out += ':';
         }
-        append_byte(out, bytes[i], UPPER_DIGITS);
+        append_byte(out, bytes[i], upper_digits);
     }
 }
 
@@ -98,7 +100,7 @@ bool parse_mac(std::string_view text, unsigned char* bytes)
         return false;
     }
     char digits[12];
-    for (std::size_t i = 0; i < 17; i++) {
+    for (std::size_t i = 0; i < 17; ++i) {
         if (i % 3 == 2) {
             if (text[i] != ':') {
                 return false;
@@ -118,8 +120,8 @@ void append_serial(std::string& out, const unsigned char* bytes)
     if (pretty) {
         out.append(vendor, sizeof vendor);
     }
-    for (int i = pretty ? 4 : 0; i < 8; i++) {
-        append_byte(out, bytes[i], UPPER_DIGITS);
+    for (int i = pretty ? 4 : 0; i < 8; ++i) {
+        append_byte(out, bytes[i], upper_digits);
     }
 }
 
@@ -137,8 +139,8 @@ bool parse_serial(std::string_view text, unsigned char* bytes)
 
 void append_hex(std::string& out, const unsigned char* bytes, std::size_t count)
 {
-    for (std::size_t i = 0; i < count; i++) {
-        append_byte(out, bytes[i], LOWER_DIGITS);
+    for (std::size_t i = 0; i < count; ++i) {
+        append_byte(out, bytes[i], lower_digits);
     }
 }
 
@@ -152,7 +154,7 @@ bool parse_hex(std::string_view text, unsigned char* bytes, std::size_t count)
             return false;
         }
     }
-    for (std::size_t i = 0; i < count; i++) {
+    for (std::size_t i = 0; i < count; ++i) {
         bytes[i] = static_cast<unsigned char>(16 * digit_value(text[2 * i]) + digit_value(text[2 * i + 1]));
     }
     return true;
@@ -166,7 +168,7 @@ void append_hexadecimal(std::string& out, std::uint32_t number, int digits)
         shift -= 4;
     }
     for (; shift >= 0; shift -= 4) {
-        out += UPPER_DIGITS[number >> shift & 0xF];
+        out += upper_digits[number >> shift & 0xF];
     }
 }
 
@@ -190,43 +192,11 @@ bool parse_decimal(std::string_view text, std::uint64_t& number)
     return true;
 }
 
-bool is_utf8(std::string_view bytes)
-{
-    const auto* at = reinterpret_cast<const unsigned char*>(bytes.data());
-    const auto* const end = at + bytes.size();
-    while (at != end) {
-        const unsigned char lead = *at++;
-        if (lead < 0x80) {
-            continue;
-        }
-        if (lead < 0xC2 || lead > 0xF4) {
-            return false;
-        }
-        const std::ptrdiff_t more = 1 + (lead >= 0xE0) + (lead >= 0xF0);
-        if (end - at < more) {
-            return false;
-        }
-        // The second byte excludes overlong forms, surrogates and what is beyond the last code point.
-        const unsigned char least = lead == 0xE0 ? 0xA0 : lead == 0xF0 ? 0x90 : 0x80;
-        const unsigned char most = lead == 0xED ? 0x9F : lead == 0xF4 ? 0x8F : 0xBF;
-        if (*at < least || *at > most) {
-            return false;
-        }
-        for (std::ptrdiff_t i = 1; i < more; i++) {
-            if (at[i] < 0x80 || at[i] > 0xBF) {
-                return false;
-            }
-        }
-        at += more;
-    }
-    return true;
-}
-
 void append_quoted(std::string& out, std::string_view text)
 {
     out += '"';
     std::size_t plain = 0;
-    for (std::size_t i = 0; i < text.size(); i++) {
+    for (std::size_t i = 0; i < text.size(); ++i) {
         const char c = text[i];
         const auto byte = static_cast<unsigned char>(c);
         if (byte >= 0x20 && byte != 0x7F && c != '"' && c != '\\') {
@@ -251,7 +221,7 @@ void append_quoted(std::string& out, std::string_view text)
             break;
         default:
             out += "u00";
-            append_byte(out, byte, LOWER_DIGITS);
+            append_byte(out, byte, lower_digits);
         }
     }
     out.append(text, plain, text.size() - plain);
@@ -260,10 +230,10 @@ void append_quoted(std::string& out, std::string_view text)
 
 std::string quote(std::string_view text)
 {
-    constexpr std::size_t LONGEST = 60;
-    const bool cut = text.size() > LONGEST;
+    constexpr std::size_t longest = 60;
+    const bool cut = text.size() > longest;
     if (cut) {
-        text = text.substr(0, LONGEST);
+        text = text.substr(0, longest);
         // Not in the middle of a character.
         while (!text.empty() && !is_utf8(text)) {
             text.remove_suffix(1);

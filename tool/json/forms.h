@@ -39,9 +39,6 @@ bool parse_hexadecimal(std::string_view text, std::uint64_t& number);
 /// Digits alone, without leading zeros. More than fit are the largest number.
 bool parse_decimal(std::string_view text, std::uint64_t& number);
 
-/// True when the bytes are text in UTF-8.
-bool is_utf8(std::string_view bytes);
-
 /// The text between quotes, with escapes; it is UTF-8.
 void append_quoted(std::string& out, std::string_view text);
 

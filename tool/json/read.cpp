@@ -17,7 +17,7 @@ namespace {
 
 using nlohmann::json;
 
-constexpr std::size_t NONE = std::numeric_limits<std::size_t>::max();
+constexpr std::size_t none = std::numeric_limits<std::size_t>::max();
 
 /// An object or a list that has begun and not ended.
 struct Frame {
@@ -33,7 +33,7 @@ struct Frame {
     const Record* record;       ///< Kind::record
     const Field* field;         ///< the others: the field that is being filled
     unsigned char* at;          ///< the record or the field
-    std::size_t current = NONE; ///< which field or element is being filled
+    std::size_t current = none; ///< which field or element is being filled
     std::size_t next = 0;       ///< Kind::record: the field that most likely comes
     std::array<std::uint64_t, 64> seen{};
 
@@ -67,24 +67,24 @@ class Reader {
         frames_.reserve(16);
     }
 
-    bool null() { return take({Value::Type::null, 0, {}}); }
-    bool boolean(bool truth) { return take({Value::Type::boolean, truth ? 1 : 0, {}}); }
-    bool number_integer(json::number_integer_t number) { return take({Value::Type::whole, number, {}}); }
+    bool null() { return take({JsonValue::Type::null, 0, {}}); }
+    bool boolean(bool truth) { return take({JsonValue::Type::boolean, truth ? 1 : 0, {}}); }
+    bool number_integer(json::number_integer_t number) { return take({JsonValue::Type::whole, number, {}}); }
 
     bool number_unsigned(json::number_unsigned_t number)
     {
         if (number > static_cast<json::number_unsigned_t>(std::numeric_limits<std::int64_t>::max())) {
-            return take({Value::Type::other_number, 0, std::to_string(number)});
+            return take({JsonValue::Type::other_number, 0, std::to_string(number)});
         }
-        return take({Value::Type::whole, static_cast<std::int64_t>(number), {}});
+        return take({JsonValue::Type::whole, static_cast<std::int64_t>(number), {}});
     }
 
     bool number_float(json::number_float_t, const std::string& digits)
     {
-        return take({Value::Type::other_number, 0, digits});
+        return take({JsonValue::Type::other_number, 0, digits});
     }
 
-    bool string(const std::string& text) { return take({Value::Type::text, 0, text}); }
+    bool string(const std::string& text) { return take({JsonValue::Type::text, 0, text}); }
     static bool binary(const json::binary_t&) { return false; }
 
     bool start_object(std::size_t);
@@ -103,14 +103,14 @@ class Reader {
     [[noreturn]] void fail_index(Frame& frame, std::string_view index);
     void check(const std::string& complaint) const;
 
-    bool take(const Value& value);
-    void take_slots(const Field& field, const Value& value);
+    bool take(const JsonValue& value);
+    void take_slots(const Field& field, const JsonValue& value);
     Place next_place();
     void choose_field(Frame& frame, std::string_view name);
     void choose_element(Frame& frame, std::string_view name);
     bool choose_slots(Frame& frame, std::string_view text);
     bool choose_slot_range(Frame& frame, std::string_view text);
-    void set_slots(const Frame& frame, const Value& flag);
+    void set_slots(const Frame& frame, const JsonValue& flag);
     void begin(Frame::Kind kind, const Place& place);
 
     std::string_view document_;
@@ -124,7 +124,7 @@ std::string Reader::path() const
 {
     std::string result;
     for (const Frame& frame : frames_) {
-        if (frame.current == NONE) {
+        if (frame.current == none) {
             break;
         }
         result += result.empty() ? "" : ".";
@@ -145,7 +145,7 @@ void Reader::fail(const std::string& complaint) const
 
 void Reader::fail_index(Frame& frame, std::string_view index)
 {
-    frame.current = NONE;
+    frame.current = none;
     const std::string shown(index.substr(0, 20));
     throw InputError(fmt::format("{}: {}.{}: index {}, but there are {} {} (0 to {})", file_, path(), shown, shown,
                                  frame.field->count, frame.field->plural, frame.field->count - 1));
@@ -164,7 +164,7 @@ void Reader::check(const std::string& complaint) const
 bool Reader::key(const std::string& name)
 {
     Frame& frame = frames_.back();
-    frame.current = NONE;
+    frame.current = none;
     switch (frame.kind) {
     case Frame::Kind::record:
         choose_field(frame, name);
@@ -172,7 +172,7 @@ bool Reader::key(const std::string& name)
     case Frame::Kind::slots:
         slots_.clear();
         if (!choose_slots(frame, name)) {
-            fail(mismatch("a number or a range such as \"100-200\" as key", {Value::Type::text, 0, name}));
+            fail(mismatch("a number or a range such as \"100-200\" as key", {JsonValue::Type::text, 0, name}));
         }
         break;
     case Frame::Kind::bytes:
@@ -193,7 +193,7 @@ void Reader::choose_field(Frame& frame, std::string_view name)
 {
     const Record& record = *frame.record;
     // Keys mostly come in the order of the fields.
-    for (std::size_t tried = 0; tried < record.count; tried++) {
+    for (std::size_t tried = 0; tried < record.count; ++tried) {
         const std::size_t candidate = frame.next < record.count ? frame.next : 0;
         frame.next = candidate + 1;
         if (record.fields[candidate].name == name) {
@@ -240,7 +240,7 @@ Place Reader::next_place()
     }
     const Field& field = *frame.field;
     if (frame.kind == Frame::Kind::list) {
-        frame.current = frame.current == NONE ? 0 : frame.current + 1;
+        frame.current = frame.current == none ? 0 : frame.current + 1;
         if (frame.current == field.count) {
             fail_index(frame, std::to_string(field.count));
         }
@@ -248,7 +248,7 @@ Place Reader::next_place()
     return {field, frame.at + frame.current * field.width, true};
 }
 
-bool Reader::take(const Value& value)
+bool Reader::take(const JsonValue& value)
 {
     if (frames_.empty()) {
         fail(mismatch("an object with the fields of the configuration", value));
@@ -270,7 +270,7 @@ bool Reader::take(const Value& value)
     const Place place = next_place();
     if (place.field.layout == Layout::flag_set) {
         begin(Frame::Kind::slot_list, place);
-        if (value.type != Value::Type::text || !value.text.empty()) {
+        if (value.type != JsonValue::Type::text || !value.text.empty()) {
             take_slots(place.field, value);
         }
         frames_.pop_back();
@@ -288,7 +288,7 @@ bool Reader::start_object(std::size_t)
         frames_.push_back({Frame::Kind::record, &gcfg_record, nullptr, root_});
         return true;
     }
-    const Value object{Value::Type::object, 0, {}};
+    const JsonValue object{JsonValue::Type::object, 0, {}};
     if (frames_.back().kind >= Frame::Kind::slot_list) {
         return take(object);
     }
@@ -319,7 +319,7 @@ bool Reader::end_object()
 
 bool Reader::start_array(std::size_t)
 {
-    const Value list{Value::Type::list, 0, {}};
+    const JsonValue list{JsonValue::Type::list, 0, {}};
     if (frames_.empty() || frames_.back().kind >= Frame::Kind::slot_list) {
         return take(list);
     }
@@ -338,7 +338,7 @@ bool Reader::end_array()
 {
     const Frame& frame = frames_.back();
     if (frame.kind == Frame::Kind::list && frame.field->layout == Layout::ended_list) {
-        for (std::size_t i = frame.current == NONE ? 0 : frame.current + 1; i < frame.field->count; i++) {
+        for (std::size_t i = frame.current == none ? 0 : frame.current + 1; i < frame.field->count; ++i) {
             set_number(*frame.field, frame.at + i * frame.field->width, -1);
         }
     }
@@ -354,17 +354,17 @@ void Reader::begin(Frame::Kind kind, const Place& place)
 // ------------------------------------------------------------------------------------------------------- flag sets
 
 /// The slots that a number or a text lists are set.
-void Reader::take_slots(const Field& field, const Value& value)
+void Reader::take_slots(const Field& field, const JsonValue& value)
 {
     Frame& frame = frames_.back();
     const std::string listed =
-        value.type == Value::Type::whole ? std::to_string(value.number) : std::string(value.text);
-    const bool lists = value.type == Value::Type::whole || value.type == Value::Type::text;
+        value.type == JsonValue::Type::whole ? std::to_string(value.number) : std::string(value.text);
+    const bool lists = value.type == JsonValue::Type::whole || value.type == JsonValue::Type::text;
     slots_.clear();
     if (!lists || !choose_slots(frame, listed)) {
         fail(mismatch(expectation(field, false), value));
     }
-    set_slots(frame, {Value::Type::whole, 1, {}});
+    set_slots(frame, {JsonValue::Type::whole, 1, {}});
 }
 
 /// "1,100-200"; false when the text has not that form.
@@ -384,9 +384,9 @@ bool Reader::choose_slots(Frame& frame, std::string_view text)
 
 bool Reader::choose_slot_range(Frame& frame, std::string_view text)
 {
-    constexpr std::string_view BLANKS = " ";
-    text.remove_prefix(std::min(text.find_first_not_of(BLANKS), text.size()));
-    text = text.substr(0, text.find_last_not_of(BLANKS) + 1);
+    constexpr std::string_view blanks = " ";
+    text.remove_prefix(std::min(text.find_first_not_of(blanks), text.size()));
+    text = text.substr(0, text.find_last_not_of(blanks) + 1);
     const std::size_t dash = text.find('-');
     const std::string_view ends[] = {text.substr(0, dash), dash == text.npos ? text : text.substr(dash + 1)};
     std::uint64_t first = 0;
@@ -397,7 +397,7 @@ bool Reader::choose_slot_range(Frame& frame, std::string_view text)
     if (last >= frame.field->count) {
         fail_index(frame, ends[1]);
     }
-    for (auto slot = static_cast<std::size_t>(first); slot <= last; slot++) {
+    for (auto slot = static_cast<std::size_t>(first); slot <= last; ++slot) {
         if (!frame.mark(slot)) {
             fail(fmt::format("{} is given twice", slot));
         }
@@ -406,7 +406,7 @@ bool Reader::choose_slot_range(Frame& frame, std::string_view text)
     return true;
 }
 
-void Reader::set_slots(const Frame& frame, const Value& flag)
+void Reader::set_slots(const Frame& frame, const JsonValue& flag)
 {
     for (const std::size_t slot : slots_) {
         check(store(frame.field->record->fields[0], frame.at + slot * frame.field->width, flag));
@@ -421,8 +421,8 @@ bool Reader::parse_error(std::size_t position, const std::string&, const json::e
     std::string reason = error.what();
     reason.erase(0, std::min(reason.find(": "), reason.size() - 2) + 2);
     reason.erase(std::min(reason.find("; last read: "), reason.size()));
-    constexpr int NUMBER_OVERFLOW = 406;
-    if (error.id == NUMBER_OVERFLOW) {
+    constexpr int number_overflow = 406;
+    if (error.id == number_overflow) {
         reason = "number too large";
     }
     fail_at(position > 0 ? position - 1 : 0, reason);

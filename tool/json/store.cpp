@@ -17,53 +17,53 @@ std::string range_of(const Field& field)
     return fmt::format("a whole number from {} to {}", smallest(field), largest(field));
 }
 
-std::string found(const Value& value, bool secret)
+std::string found(const JsonValue& value, bool secret)
 {
     switch (value.type) {
-    case Value::Type::null:
+    case JsonValue::Type::null:
         return "null";
-    case Value::Type::object:
+    case JsonValue::Type::object:
         return "an object";
-    case Value::Type::list:
+    case JsonValue::Type::list:
         return "a list";
-    case Value::Type::boolean:
+    case JsonValue::Type::boolean:
         return value.number != 0 ? "true" : "false";
-    case Value::Type::whole:
+    case JsonValue::Type::whole:
         return secret ? "a number" : std::to_string(value.number);
-    case Value::Type::other_number:
+    case JsonValue::Type::other_number:
         return secret ? "a number" : std::string(value.text.substr(0, 60)) + (value.text.size() > 60 ? "..." : "");
-    case Value::Type::text:
+    case JsonValue::Type::text:
         break;
     }
     return secret ? "a text" : quote(value.text);
 }
 
-std::string store_number(const Field& field, unsigned char* at, const Value& value)
+std::string store_number(const Field& field, unsigned char* at, const JsonValue& value)
 {
-    if (value.type != Value::Type::whole || value.number < smallest(field) || value.number > largest(field)) {
+    if (value.type != JsonValue::Type::whole || value.number < smallest(field) || value.number > largest(field)) {
         return mismatch(expectation(field, true), value);
     }
     set_number(field, at, value.number);
     return {};
 }
 
-std::string store_boolean(const Field& field, unsigned char* at, const Value& value)
+std::string store_boolean(const Field& field, unsigned char* at, const JsonValue& value)
 {
-    if (value.type == Value::Type::boolean) {
+    if (value.type == JsonValue::Type::boolean) {
         set_number(field, at, value.number);
         return {};
     }
-    if (value.type == Value::Type::text && (value.text == "true" || value.text == "false")) {
+    if (value.type == JsonValue::Type::text && (value.text == "true" || value.text == "false")) {
         set_number(field, at, value.text == "true" ? 1 : 0);
         return {};
     }
     return store_number(field, at, value);
 }
 
-std::string store_hexadecimal(const Field& field, unsigned char* at, const Value& value)
+std::string store_hexadecimal(const Field& field, unsigned char* at, const JsonValue& value)
 {
     std::uint64_t number = 0;
-    if (value.type != Value::Type::text) {
+    if (value.type != JsonValue::Type::text) {
         return store_number(field, at, value);
     }
     if (!parse_hexadecimal(value.text, number) || number > static_cast<std::uint64_t>(largest(field))) {
@@ -73,9 +73,9 @@ std::string store_hexadecimal(const Field& field, unsigned char* at, const Value
     return {};
 }
 
-std::string store_enumeration(const Field& field, unsigned char* at, const Value& value)
+std::string store_enumeration(const Field& field, unsigned char* at, const JsonValue& value)
 {
-    if (value.type != Value::Type::text) {
+    if (value.type != JsonValue::Type::text) {
         return store_number(field, at, value);
     }
     const Words& words = words_of(field);
@@ -91,10 +91,10 @@ std::string store_enumeration(const Field& field, unsigned char* at, const Value
     return {};
 }
 
-std::string store_text(const Field& field, unsigned char* at, const Value& value)
+std::string store_text(const Field& field, unsigned char* at, const JsonValue& value)
 {
     const bool secret = field.form == Form::secret;
-    if (value.type != Value::Type::text) {
+    if (value.type != JsonValue::Type::text) {
         return mismatch(expectation(field, true), value, secret);
     }
     if (value.text.size() >= field.size) {
@@ -109,9 +109,10 @@ std::string store_text(const Field& field, unsigned char* at, const Value& value
 }
 
 std::string store_form(bool (*parse)(std::string_view, unsigned char*), const Field& field, unsigned char* at,
-                       const Value& value)
+                       const JsonValue& value)
 {
-    return value.type == Value::Type::text && parse(value.text, at) ? "" : mismatch(expectation(field, true), value);
+    return value.type == JsonValue::Type::text && parse(value.text, at) ? ""
+                                                                        : mismatch(expectation(field, true), value);
 }
 
 std::string expected_words(const Field& field)
@@ -129,13 +130,13 @@ std::size_t distance(std::string_view a, std::string_view b)
 {
     // The distances between the part of `a` that has been looked at and each part of `b` that begins it.
     std::vector<std::size_t> row(b.size() + 1);
-    for (std::size_t j = 0; j <= b.size(); j++) {
+    for (std::size_t j = 0; j <= b.size(); ++j) {
         row[j] = j;
     }
-    for (std::size_t i = 0; i < a.size(); i++) {
+    for (std::size_t i = 0; i < a.size(); ++i) {
         std::size_t diagonal = row[0];
         row[0] = i + 1;
-        for (std::size_t j = 0; j < b.size(); j++) {
+        for (std::size_t j = 0; j < b.size(); ++j) {
             const std::size_t replaced = diagonal + (a[i] == b[j] ? 0 : 1);
             diagonal = row[j + 1];
             row[j + 1] = std::min({row[j] + 1, diagonal + 1, replaced});
@@ -146,7 +147,7 @@ std::size_t distance(std::string_view a, std::string_view b)
 
 } // namespace
 
-std::string mismatch(const std::string& expected, const Value& value, bool secret)
+std::string mismatch(const std::string& expected, const JsonValue& value, bool secret)
 {
     return fmt::format("expected {}, found {}", expected, found(value, secret));
 }
@@ -189,7 +190,7 @@ std::string expectation(const Field& field, bool element)
     }
 }
 
-std::string store(const Field& field, unsigned char* at, const Value& value)
+std::string store(const Field& field, unsigned char* at, const JsonValue& value)
 {
     switch (field.form) {
     case Form::number:
@@ -221,14 +222,14 @@ std::string store(const Field& field, unsigned char* at, const Value& value)
     return mismatch(expectation(field, true), value);
 }
 
-std::string store_bytes(const Field& field, unsigned char* at, const Value& value)
+std::string store_bytes(const Field& field, unsigned char* at, const JsonValue& value)
 {
     const bool secret = field.form == Form::secret;
-    if (value.type == Value::Type::text && value.text.size() > 2 * std::size_t{field.size}) {
+    if (value.type == JsonValue::Type::text && value.text.size() > 2 * std::size_t{field.size}) {
         return fmt::format("{} has {} hexadecimal digits, but at most {} fit", found(value, secret), value.text.size(),
                            2 * field.size);
     }
-    if (value.type != Value::Type::text || !parse_hex(value.text, at, value.text.size() / 2)) {
+    if (value.type != JsonValue::Type::text || !parse_hex(value.text, at, value.text.size() / 2)) {
         return mismatch("pairs of hexadecimal digits", value, secret);
     }
     return {};

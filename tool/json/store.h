@@ -11,7 +11,7 @@
 namespace pondiff::tool {
 
 /// A value that the document holds, as far as it matters where it was not expected.
-struct Value {
+struct JsonValue {
     enum class Type : std::uint8_t { null, boolean, whole, other_number, text, object, list };
     Type type;
     std::int64_t number = 0; ///< of a whole one, or 0 and 1 for a boolean
@@ -19,16 +19,16 @@ struct Value {
 };
 
 /// "expected ..., found ...": what is wrong with the value, that of a secret left out.
-std::string mismatch(const std::string& expected, const Value& value, bool secret = false);
+std::string mismatch(const std::string& expected, const JsonValue& value, bool secret = false);
 
 /// What a person can write for the whole field, or for an element of an array.
 std::string expectation(const Field& field, bool element);
 
 /// Puts the value in the element of `field` at `at`, which holds zeros. Gives what is wrong with the value, or nothing.
-std::string store(const Field& field, unsigned char* at, const Value& value);
+std::string store(const Field& field, unsigned char* at, const JsonValue& value);
 
 /// The same for the bytes of a text, written as hexadecimal digits.
-std::string store_bytes(const Field& field, unsigned char* at, const Value& value);
+std::string store_bytes(const Field& field, unsigned char* at, const JsonValue& value);
 
 /// The one of `names` that is meant when `name` is misspelt, or nothing when none is near.
 std::string_view nearest(std::string_view name, const std::vector<std::string_view>& names);

@@ -2,6 +2,7 @@
 
 #include "tool/json/forms.h"
 #include "tool/json/words.h"
+#include "tool/utf8.h"
 
 #include <charconv>
 

@@ -1,7 +1,7 @@
 #include "tool/json/words.h"
 
 #include "platform/platform.h"
-#include "tool/json/forms.h"
+#include "tool/utf8.h"
 
 #include <algorithm>
 #include <cstring>
@@ -13,9 +13,9 @@ namespace pondiff::tool {
 namespace {
 
 /// The registry does not say which values have words. In every enumeration they lie below this one.
-constexpr int VALUES_ASKED = 1024;
+constexpr int values_asked = 1024;
 /// The registry is asked for 16 bits.
-constexpr std::int64_t LARGEST_VALUE = 0xFFFF;
+constexpr std::int64_t largest_value = 0xFFFF;
 
 /// Whether the registry's answer is a word. Some answer with a word of their own for what they do not know.
 bool is_word(const char* answer, const char* unknown)
@@ -28,7 +28,7 @@ bool is_word(const char* answer, const char* unknown)
 Words::Words(const char* type, std::int64_t largest, Lookup lookup)
 {
     const char* const unknown = lookup("", 0);
-    for (int value = 0; value < VALUES_ASKED && value <= largest; value++) {
+    for (int value = 0; value < values_asked && value <= largest; ++value) {
         const char* const word = lookup(type, value);
         if (is_word(word, unknown) && is_utf8(word) && find(word) == nullptr) {
             words_.push_back({value, word});
@@ -52,7 +52,7 @@ const Words::Word* Words::find(std::string_view word) const
 
 bool has_word(const Field& field, std::int64_t value)
 {
-    return value <= LARGEST_VALUE && is_word(gpon_enum_find_name_by_type(field.enumeration, static_cast<int>(value)),
+    return value <= largest_value && is_word(gpon_enum_find_name_by_type(field.enumeration, static_cast<int>(value)),
                                              gpon_enum_find_name_by_type("", 0));
 }
 

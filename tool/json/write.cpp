@@ -40,7 +40,7 @@ class Writer {
         Object(Writer& writer, bool on_a_line) : writer_(writer), on_a_line_(on_a_line)
         {
             writer_.out_ += '{';
-            writer_.depth_++;
+            ++writer_.depth_;
         }
 
         void key(std::string_view name)
@@ -59,7 +59,7 @@ class Writer {
 
         void end()
         {
-            writer_.depth_--;
+            --writer_.depth_;
             if (!on_a_line_) {
                 writer_.start_line();
             }
@@ -124,7 +124,7 @@ class Writer {
     void write_elements(const Field& field, const unsigned char* at)
     {
         Object object(*this, false);
-        for (std::size_t i = 0; i < field.count; i++) {
+        for (std::size_t i = 0; i < field.count; ++i) {
             const unsigned char* const element = at + i * field.width;
             if (!is_left_out(element, field.width)) {
                 object.key(i);
@@ -139,7 +139,7 @@ class Writer {
         if (field.layout == Layout::ended_list) {
             std::size_t length = field.count;
             while (length > 0 && get_number(field, at + (length - 1) * field.width) == -1) {
-                length--;
+                --length;
             }
             write_list(field, at, length);
             return;
@@ -150,7 +150,7 @@ class Writer {
         }
         std::size_t length = 0;
         bool gaps = false;
-        for (std::size_t i = 0; i < field.count; i++) {
+        for (std::size_t i = 0; i < field.count; ++i) {
             if (!is_zero(at + i * field.width, field.width)) {
                 gaps = gaps || i > length;
                 length = i + 1;
@@ -171,7 +171,7 @@ class Writer {
     void write_list(const Field& field, const unsigned char* at, std::size_t length)
     {
         out_ += '[';
-        for (std::size_t i = 0; i < length; i++) {
+        for (std::size_t i = 0; i < length; ++i) {
             if (i > 0) {
                 out_ += ", ";
             }
@@ -183,7 +183,7 @@ class Writer {
     void write_indexed(const Field& field, const unsigned char* at)
     {
         Object object(*this, true);
-        for (std::size_t i = 0; i < field.count; i++) {
+        for (std::size_t i = 0; i < field.count; ++i) {
             const unsigned char* const element = at + i * field.width;
             if (!is_zero(element, field.width)) {
                 object.key(i);
@@ -201,7 +201,7 @@ class Writer {
         std::string slots;
         for (std::size_t first = 0, next = 0; first < field.count; first = next) {
             const unsigned char* const flag = at + first * field.width;
-            for (next = first + 1; next < field.count; next++) {
+            for (next = first + 1; next < field.count; ++next) {
                 if (std::memcmp(flag, at + next * field.width, field.width) != 0) {
                     break;
                 }
