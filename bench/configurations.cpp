@@ -46,7 +46,7 @@ const std::vector<int>& values_with_words(const char* type)
 {
     static std::map<std::string, std::vector<int>> known;
     std::vector<int>& values = known[type];
-    for (int value = 1; value < 256 && (values.empty() || values.back() < value); value++)
+    for (int value = 1; value < 256 && (values.empty() || values.back() < value); ++value)
         if (std::strcmp(gpon_enum_find_name_by_type(type, value), "unknown") != 0)
             values.push_back(value);
     if (values.empty())
@@ -146,7 +146,7 @@ void fill(const Leaf& leaf, unsigned char* at)
         std::memcpy(at + 4, &seed, 4);
         return;
     default: // addresses
-        for (std::size_t i = 0; i < field.width; i++)
+        for (std::size_t i = 0; i < field.width; ++i)
             at[i] = static_cast<unsigned char>(pick(scatter(seed + i), 254));
     }
 }
@@ -154,7 +154,7 @@ void fill(const Leaf& leaf, unsigned char* at)
 template <class Record, std::size_t N>
 void name_each(Record (&records)[N], const char* kind)
 {
-    for (std::size_t i = 0; i < N; i++) {
+    for (std::size_t i = 0; i < N; ++i) {
         std::memset(records[i].name, 0, sizeof records[i].name);
         std::snprintf(records[i].name, sizeof records[i].name, "%s-%zu", kind, i);
     }
@@ -211,7 +211,7 @@ Configuration random_bytes(std::uint64_t seed)
 {
     Configuration result = blank();
     auto* const bytes = reinterpret_cast<unsigned char*>(result.get());
-    for (std::size_t i = 0; i < sizeof(GCfg); i++)
+    for (std::size_t i = 0; i < sizeof(GCfg); ++i)
         bytes[i] = static_cast<unsigned char>(scatter(seed + i));
     return result;
 }
@@ -223,7 +223,7 @@ Configuration full()
     tool::for_each_leaf(tool::gcfg_record, [bytes](const Leaf& leaf) { fill(leaf, bytes + leaf.offset); });
     name_objects(*result);
     for (GPonProfileOltAddressTable& profile : result->pon.profiles_olt.address_table)
-        for (int i = 0; i < GCFG_SVLANS; i++)
+        for (int i = 0; i < GCFG_SVLANS; ++i)
             profile.svlan_config[i].svlan = static_cast<s16>(i + 1);
     return result;
 }

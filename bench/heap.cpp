@@ -49,7 +49,7 @@ std::size_t size_of(void* block)
 void* counted(void* block, std::size_t released)
 {
     if (heap.counting)
-        heap.allocations++;
+        ++heap.allocations;
     heap.change(released, size_of(block));
     return block;
 }

@@ -189,7 +189,7 @@ double diff_time(const Configuration& orig, const Configuration& cfg, int runs)
     const Session session(orig, cfg);
     session.diff();
     return timed([&] {
-               for (int i = 0; i < runs; i++)
+               for (int i = 0; i < runs; ++i)
                    session.diff();
            }) /
            runs;

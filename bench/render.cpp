@@ -55,7 +55,7 @@ std::string schema()
 
 bool is_blank(const unsigned char* bytes, std::size_t size)
 {
-    for (std::size_t i = 0; i < size; i++)
+    for (std::size_t i = 0; i < size; ++i)
         if (bytes[i] != 0)
             return false;
     return true;
@@ -69,12 +69,12 @@ void add_leaf(std::string& out, const Field& field, const unsigned char* at)
     }
     out += '"';
     if (is_number(field.form)) {
-        for (std::size_t i = 0; i < field.count; i++)
+        for (std::size_t i = 0; i < field.count; ++i)
             out += (i == 0 ? "" : ",") + std::to_string(get_number(field, at + i * field.width));
     } else if (field.form == Form::text || field.form == Form::secret) {
         out.append(reinterpret_cast<const char*>(at), strnlen(reinterpret_cast<const char*>(at), field.width));
     } else {
-        for (std::size_t i = 0; i < field.width; i++)
+        for (std::size_t i = 0; i < field.width; ++i)
             out += (i == 0 ? "" : ".") + std::to_string(at[i]);
     }
     out += '"';
@@ -98,7 +98,7 @@ void add_tree(std::string& out, const Record& record, const unsigned char* at, b
             out += '}';
         } else {
             const char* before = "[";
-            for (std::size_t i = 0; i < field.count; i++) {
+            for (std::size_t i = 0; i < field.count; ++i) {
                 const unsigned char* const element = start + i * field.width;
                 if (is_blank(element, field.width))
                     continue;

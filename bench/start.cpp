@@ -81,12 +81,12 @@ int main(int argc, char** argv)
         return EXIT_FAILURE;
     }
     std::vector<Command> commands;
-    for (int i = 2; i < argc; i++)
+    for (int i = 2; i < argc; ++i)
         commands.push_back(parse(argv[i]));
     posix_spawn_file_actions_t actions;
     posix_spawn_file_actions_init(&actions);
     posix_spawn_file_actions_addopen(&actions, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
-    for (int i = 0; i < runs; i++)
+    for (int i = 0; i < runs; ++i)
         for (Command& command : commands)
             run(command, actions);
     posix_spawn_file_actions_destroy(&actions);

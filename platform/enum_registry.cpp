@@ -11,10 +11,14 @@ struct Word {
     const char* word;
 };
 
-constexpr char UNKNOWN[] = "unknown";
+constexpr char unknown[] = "unknown";
 
-// Sorted by type, then by value. An enumeration is added by adding its words; the checks below hold it to the order.
-constexpr Word WORDS[] = {
+// Sorted by type, then by value, which the static assertions below check. To add an enumeration, add its words.
+//
+// Documents are written in these words. The library has words of its own for some of these enumerations (alarm types,
+// log levels, ...; see pon/DataToCommandsConvertor/vocabularies.cpp) since a device's registry may lack them or differ
+// from the CLI. A test checks that the two agree here.
+constexpr Word words[] = {
     {"GAlarmSeverity_enum", 0, "indeterminate"},
     {"GAlarmSeverity_enum", 1, "critical"},
     {"GAlarmSeverity_enum", 2, "major"},
@@ -235,9 +239,9 @@ constexpr Word WORDS[] = {
     {"GVlanForwardingMode_enum", 2, "tls"},
 };
 
-constexpr std::size_t WORD_COUNT = sizeof WORDS / sizeof WORDS[0];
+constexpr std::size_t word_count = sizeof words / sizeof words[0];
 
-// std::strcmp that constant expressions may call as well.
+// std::strcmp, for constant expressions too.
 constexpr int compare(const char* a, const char* b)
 {
     return __builtin_strcmp(a, b);
@@ -245,14 +249,14 @@ constexpr int compare(const char* a, const char* b)
 
 constexpr bool starts_enumeration(std::size_t i)
 {
-    return i == 0 || compare(WORDS[i - 1].type, WORDS[i].type) != 0;
+    return i == 0 || compare(words[i - 1].type, words[i].type) != 0;
 }
 
 constexpr bool is_sorted()
 {
-    for (std::size_t i = 1; i < WORD_COUNT; i++) {
-        const int order = compare(WORDS[i - 1].type, WORDS[i].type);
-        if (order > 0 || (order == 0 && WORDS[i - 1].value >= WORDS[i].value)) {
+    for (std::size_t i = 1; i < word_count; ++i) {
+        const int order = compare(words[i - 1].type, words[i].type);
+        if (order > 0 || (order == 0 && words[i - 1].value >= words[i].value)) {
             return false;
         }
     }
@@ -261,12 +265,12 @@ constexpr bool is_sorted()
 
 constexpr bool has_distinct_words()
 {
-    for (std::size_t i = 0; i < WORD_COUNT; i++) {
-        if (compare(WORDS[i].word, "") == 0 || compare(WORDS[i].word, UNKNOWN) == 0) {
+    for (std::size_t i = 0; i < word_count; ++i) {
+        if (compare(words[i].word, "") == 0 || compare(words[i].word, unknown) == 0) {
             return false;
         }
-        for (std::size_t j = i + 1; j < WORD_COUNT && !starts_enumeration(j); j++) {
-            if (compare(WORDS[i].word, WORDS[j].word) == 0) {
+        for (std::size_t j = i + 1; j < word_count && !starts_enumeration(j); ++j) {
+            if (compare(words[i].word, words[j].word) == 0) {
                 return false;
             }
         }
@@ -280,7 +284,7 @@ static_assert(has_distinct_words(), "a word stands for one value of its type, an
 constexpr std::size_t count_enumerations()
 {
     std::size_t count = 0;
-    for (std::size_t i = 0; i < WORD_COUNT; i++) {
+    for (std::size_t i = 0; i < word_count; ++i) {
         count += starts_enumeration(i);
     }
     return count;
@@ -293,26 +297,27 @@ struct Enumeration {
 };
 
 struct Enumerations {
-    static constexpr std::size_t COUNT = count_enumerations();
-    Enumeration at[COUNT];
+    static constexpr std::size_t size = count_enumerations();
+    Enumeration at[size];
 };
 
 constexpr Enumerations find_enumerations()
 {
     Enumerations result{};
     std::size_t count = 0;
-    for (std::size_t i = 0; i < WORD_COUNT; i++) {
+    for (std::size_t i = 0; i < word_count; ++i) {
         if (starts_enumeration(i)) {
-            result.at[count++].begin = &WORDS[i];
+            result.at[count++].begin = &words[i];
         }
-        result.at[count - 1].end = &WORDS[i] + 1;
+        result.at[count - 1].end = &words[i] + 1;
     }
     return result;
 }
 
-constexpr Enumerations ENUMERATIONS = find_enumerations();
+constexpr Enumerations enumerations = find_enumerations();
 
-// The element for which `order` is 0, or null. It is negative for the elements in front of that one, positive behind.
+// The element for which `order` is 0, or null. `order` is negative for the elements before it, positive for those after
+// it.
 template <typename Element, typename Order>
 const Element* find(const Element* begin, const Element* end, Order order)
 {
@@ -336,15 +341,15 @@ const Element* find(const Element* begin, const Element* end, Order order)
 const char* gpon_enum_find_name_by_type(const char* type, int value)
 {
     if (type == nullptr) {
-        return UNKNOWN;
+        return unknown;
     }
     const Enumeration* const enumeration =
-        find(ENUMERATIONS.at, ENUMERATIONS.at + Enumerations::COUNT,
+        find(enumerations.at, enumerations.at + Enumerations::size,
              [type](const Enumeration& candidate) { return compare(candidate.begin->type, type); });
     if (enumeration == nullptr) {
-        return UNKNOWN;
+        return unknown;
     }
     const Word* const word = find(enumeration->begin, enumeration->end,
                                   [value](const Word& candidate) { return candidate.value - (value & 0xFFFF); });
-    return word != nullptr ? word->word : UNKNOWN;
+    return word != nullptr ? word->word : unknown;
 }

@@ -2,8 +2,8 @@
 #define PON_DATATOCOMMANDSCONVERTOR_H
 
 /// @file
-/// Where the emitted script stands and how it names things: CLI views and the navigation between them, placeholder
-/// substitution, the identifier name tables of a diff session, and the CLI words of enumerations.
+/// What a script needs besides its commands: CLI views and the navigation between them, placeholder substitution, the
+/// name tables of a diff session, and the CLI words of enumerations.
 ///
 /// All state is process-global and unlocked: one diff session at a time, from one thread.
 
@@ -22,23 +22,23 @@ struct view_state {
     int key[10];      ///< object identifiers; only key[0] tells two objects of one view apart
 };
 
-/// Where the script will stand once the device has run what has been emitted. Changed by `goto_view_buf` alone; a
+/// The view that the device is in after it has run the script emitted so far. Only `goto_view_buf` changes it; a
 /// session opens at "root".
 extern view_state current_view;
 
 /// Writes the commands that lead from `current_view` to `view` and the object `key`, and moves `current_view` there.
 /// @param view  a view name, such as "configure-view" or "if-ont-view"
 /// @param key   ten identifiers: the GPON port, ONT or profile index in key[0]
-/// @param out   room for 1024 bytes; left as it is when the script already stands there. Several commands are
-///              separated by line feeds; there is none at the end.
-/// @return 0; -1 when the view is unknown, which is also said on standard output, when an argument is null, or when the
-///         text would not fit: the script then stands where it stood
+/// @param out   room for 1024 bytes; unchanged when the script is already there. Several commands are separated by line
+///              feeds; there is none at the end.
+/// @return 0; -1 when the view is unknown, which is also printed on standard output, when an argument is null, or when
+///         the text would not fit. `current_view` is then unchanged.
 int goto_view_buf(const char* view, int* key, char* out);
 
 // --------------------------------------------------------------------------------------------------- placeholders
 
-/// A copy of the template `command` in which each "$ID" and digit n stands replaced by the identifier `ids[n]` in four
-/// characters; some commands ("user $ID0 ...") show their first identifier as a name instead.
+/// A copy of the template `command` in which each "$ID" and digit n is replaced by the identifier `ids[n]`, four
+/// characters wide; some commands ("user $ID0 ...") show their first identifier as a name instead.
 /// @param ids  ten identifiers
 /// @return heap text, released with `free`; null when the allocation fails
 char* useVariables(char* command, int* ids);
@@ -84,11 +84,11 @@ extern char* user2id_connection[GCFG_USERS];
 extern char* ont2id_connection[GCFG_ONTS];
 /// Declared for the device software; never filled or read.
 extern char* def_ont2id_connection[512];
-/// What `finalize_diff` leaves as it is: alarm type words, which are constants, ...
+/// Not freed by `finalize_diff`, like the tables below: alarm type words, which are constants.
 extern const char* alarm2id_connection[GCFG_ALARM_TYPES];
-/// ... VLAN ids of the DHCP relay redefinitions, for record diffs of the device software, ...
+/// VLAN ids of the DHCP relay redefinitions, for record diffs of the device software.
 extern unsigned short profile_dhcpra_redefinition2id_connection[GCFG_RELAY_REDEFINITIONS];
-/// ... and addresses of the new configuration, dotted, used or not.
+/// Addresses of the new configuration, dotted, whether the entry is in use or not.
 extern char telnetip[GCFG_ALLOW_ENTRIES][16];
 extern char sship[GCFG_ALLOW_ENTRIES][16];
 extern char snmpip[GCFG_ALLOW_ENTRIES][16];
@@ -96,16 +96,16 @@ extern char routeip[GCFG_ROUTES][16];
 extern char sourceguardip[GCFG_SOURCE_GUARD_BINDINGS][16];
 
 /// Layout of ONT serial numbers: 0 pretty where the vendor code is four capital letters and dense elsewhere, 1 dense,
-/// 2 dashed, anything else none at all (an empty text). Set when a session opens.
+/// 2 dashed, any other value an empty text. Set when a session opens.
 extern int sn_format;
 
 /// Builds every table from the two configurations and sets the current view to "root"; what an earlier call built is
 /// released first. Called by `initiate_diff`.
-/// @return 0; -1 when memory cannot be allocated or a record is null: there are no names then
+/// @return 0; -1 when an allocation fails or a record is null: there are no names then
 int data_prepare(GCfg_t* orig, GCfg_t* cfg);
 
-/// Frees the names; the tables that hold none keep what they hold. Called by `finalize_diff`; harmless when there is
-/// nothing to free.
+/// Frees the names; the other tables keep their content. Called by `finalize_diff`; harmless when there is nothing to
+/// free.
 int data_free();
 
 /// The name of a profile of the new configuration; never freed by the caller.

@@ -2,12 +2,12 @@
 #define PON_COMMAND_FILE_GENERATOR_H
 
 /// @file
-/// The front door of the library: the diff session and the operations that return a script.
+/// The main interface of the library: the diff session and the operations that return a script.
 ///
-/// Order of calls: `initiate_diff`, any number of operations on the same two records, `finalize_diff`. The records are
-/// the caller's and are only read, the selective-tunnel lists of the new one excepted (they are sorted in place). Every
-/// text returned is the caller's, who releases it with `free`. It is null, never shortened, when memory for the whole
-/// of it could not be had; the session stays usable then and the script stands where it stood before. All state is
+/// Order of calls: `initiate_diff`, any number of operations on the same two records, `finalize_diff`. The records
+/// belong to the caller and are only read, except that the selective-tunnel lists of the new one are sorted in place.
+/// Every text returned belongs to the caller, who releases it with `free`. When an allocation fails the result is null,
+/// never a shortened text; the session stays usable, and `current_view` is as before the call. All state is
 /// process-global: one session at a time, from one thread.
 
 #include "gcfg/gcfg.h"
@@ -30,7 +30,7 @@ int initiate_diff(GCfg_t* orig, GCfg_t* cfg, int need_all_cfg, int common_type);
 /// @return 0
 int finalize_diff();
 
-/// The commands that turn `orig` into `cfg`, one per line, from where the script stands to the top level of the CLI,
+/// The commands that turn `orig` into `cfg`, one per line, from the current view to the top level of the CLI,
 /// closed by "commit"; an empty text when there are none. With `print_common` at 1 the common records alone. Static
 /// routes are left out.
 char* GetDiff(GCfg_t* orig, GCfg_t* cfg);
@@ -41,12 +41,12 @@ bool getdiff_GPonCfg(GPonCfg* lhs, GPonCfg* rhs, int* key, List<char>& out);
 
 // ------------------------------------------------------------------------------------------------- stream variants
 
-/// The stream of the operation under way, for whoever is interested; null outside these calls. The library writes
-/// nothing to it.
+/// The stream of the current operation, for other code to read; null outside these calls. The library writes nothing to
+/// it.
 extern FILE* file_to_dump;
 
 /// `GetDiff`, except that the common records are those without the CLI settings and the IP source guard.
-/// @param file  published in `file_to_dump` for as long as the call lasts; null publishes nothing
+/// @param file  the value of `file_to_dump` during the call; null leaves that as it is until the call ends
 char* GetDiffMemSafe(GCfg_t* orig, GCfg_t* cfg, FILE* file);
 
 /// The static routes, which a full diff leaves out; back to the top level, closed by "commit" when there is any text.
@@ -54,7 +54,7 @@ char* GetRoutesDiffMemSafe(GSystemRoutingCfg_t* orig, GSystemRoutingCfg_t* cfg, 
 
 // --------------------------------------------------------------------------------------------------- partial diffs
 //
-// They differ on purpose in where they begin and end:
+// They differ, on purpose, in where they begin and end:
 //
 //                            begins in           ends at the   "commit"
 //                            configure-view      top level
@@ -64,12 +64,12 @@ char* GetRoutesDiffMemSafe(GSystemRoutingCfg_t* orig, GSystemRoutingCfg_t* cfg, 
 //   GetGponChannelDiff       yes                 yes           no
 //   GetGPonProfilesOltDiff   no                  yes           when there is any text
 //   GetGPonProfilesOntDiff   no                  yes           when there is any text
-//   GetProfileDiff           yes                 yes           always, the navigations are text
+//   GetProfileDiff           yes                 yes           always: navigation is text
 //   GetBlockDiff             yes                 yes           always
 //   GetAlarmDiff             yes                 yes           always
 //   GetTerminalVlanHeaders   yes                 no            no
 //
-// Where the script is left elsewhere, the next operation of the session goes on from there.
+// Where a script ends elsewhere, the next operation of the session continues from there.
 
 char* GetSystemDiff(GSystemCfg_t* orig, GSystemCfg_t* cfg);
 char* GetPonDiff(GPonCfg_t* orig, GPonCfg_t* cfg);

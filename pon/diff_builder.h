@@ -6,10 +6,10 @@
 ///
 /// A record diff takes the old record (`lhs`), the new one (`rhs`), the key (ten identifiers of the enclosing objects)
 /// and the list that it appends to. Unless `print_all` is set it returns at once when the two are equal byte for byte.
-/// For each command it pushes the navigation to the command's view, empty when the script stands there already, and
-/// then the command. The result carries no meaning. Records are only read, the selective-tunnel list excepted. Where
-/// memory for a navigation or a command cannot be allocated, the command is left out; no other one ever stands in a
-/// view that it does not belong to.
+/// For each command it pushes the navigation to the command's view, empty when the script is already there, and then
+/// the command. The return value has no meaning. Records are only read, except that selective-tunnel lists are sorted.
+/// When an allocation for a navigation or a command fails, that command is left out; no other command is ever emitted
+/// in a wrong view.
 
 #include "gcfg/gcfg.h"
 #include "pon/visibility.h"
@@ -18,10 +18,10 @@ PON_EXPORTS_BEGIN
 
 // ------------------------------------------------------------------------------------------------------- switches
 
-/// Non-zero: record diffs render what is equal, too, except for what <pondiff.h> names under `need_all_cfg`. 0 at
-/// first; set by `initiate_diff`.
+/// Non-zero: record diffs render what is equal, too, except for what <pondiff.h> lists under `need_all_cfg`.
+/// Initially 0; set by `initiate_diff`.
 extern int print_all;
-/// Which part of a full diff is wanted: exactly 1 (the value at first) the common records only. With `print_all`, the
+/// What a full diff shows: at exactly 1, the initial value, the common records only. With `print_all`, the
 /// values 1 and 2 force the common settings, 2 the default relay profiles too.
 extern int print_common;
 
@@ -34,7 +34,7 @@ struct ListElem {
 };
 
 /// The fragments of a script in the order in which they are emitted. Used as `List<char>` alone: each element is a
-/// NUL-terminated heap text. The list owns its nodes, never the texts: whoever walks it releases them with `free`.
+/// NUL-terminated heap text. The list owns its nodes, never the texts: the code that walks it frees them.
 template <class T>
 class List {
   public:
@@ -47,13 +47,13 @@ class List {
     List(const List&) = delete;
     List& operator=(const List&) = delete;
 
-    /// @return false when no node can be had: the text stays the caller's
+    /// @return false when the allocation of a node fails: the text still belongs to the caller
     bool push_back(T* elem);
     ListElem<T>* begin();
     int size();
     /// Frees every node, not the texts.
     void clear();
-    /// Unlinks one node and frees it, not its text; a node that is not in the list is left alone.
+    /// Unlinks one node and frees it, not its text; does nothing for a node that is not in the list.
     void delete_elem(ListElem<T>* node);
 };
 
@@ -86,9 +86,9 @@ char* Enum_tostr(char* type, int value);
 char* convertarrayu8tostr(unsigned char* values, int count);
 char* convertarrays16tostr(short* values, int count);
 
-/// Writes `replacement` over every occurrence of `needle`, each search beginning at the start of the text. The rest of
-/// the text never moves: the two have the same length where the result matters. Nothing is written behind the text's
-/// end. A replacement that holds the needle is not searched again.
+/// Writes `replacement` over every occurrence of `needle`, each search starting at the beginning of the text. The rest
+/// of the text does not move: useful when both have the same length. Nothing is written past the text's end. A
+/// replacement that contains the needle is not searched again.
 void str_replace(char* text, const char* needle, const char* replacement);
 
 // --------------------------------------------------------------------------------------------------- record diffs
@@ -165,7 +165,7 @@ bool getdiff_GPonOltChannelCfg(GPonOltChannelCfg* lhs, GPonOltChannelCfg* rhs, i
 bool getdiff_GPonOntCfg(GPonOntCfg* lhs, GPonOntCfg* rhs, int* key, List<char>& out);
 unsigned char getdiff_GPonOntCustomCrossConnect(GPonOntCustomCrossConnect* lhs, GPonOntCustomCrossConnect* rhs,
                                                 int* key, List<char>& out);
-/// Always emits its command, and sorts the list of the new record.
+/// Emits its command even when nothing differs, and sorts the list of the new record.
 bool getdiff_GPonOntSelectiveTunnel(GPonOntSelectiveTunnel* lhs, GPonOntSelectiveTunnel* rhs, int* key,
                                     List<char>& out);
 bool getdiff_GPonOntPort(GPonOntPort* lhs, GPonOntPort* rhs, int* key, List<char>& out);
@@ -221,7 +221,7 @@ bool getdiff_GPonOntShapingUpstream(GPonOntShapingUpstream* lhs, GPonOntShapingU
 /// @param traffic_class  "", "unicast", "multicast" or "broadcast"
 bool getdiff_GPonOntShapingUpstreamParams(const char* traffic_class, GPonOntShapingUpstreamParams* lhs,
                                           GPonOntShapingUpstreamParams* rhs, int* key, List<char>& out);
-/// @return 0; 1 or 11 when the navigation, 3 or 13 when the command of broadcast or multicast could not be had
+/// @return 0; 1 or 11 when the navigation, 3 or 13 when the command of broadcast or multicast could not be allocated
 unsigned char getdiff_GPonOntStormControl(GPonOntStormControl* lhs, GPonOntStormControl* rhs, int* key,
                                           List<char>& out);
 bool getdiff_GPonProfileOntAlloc(GPonProfileOntAlloc* lhs, GPonProfileOntAlloc* rhs, int* key, List<char>& out);

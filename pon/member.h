@@ -6,8 +6,8 @@
 
 namespace pondiff {
 
-/// A member of a record, as the struct declares it. The rows of the record diffs and the descriptions of the program
-/// both begin with one: neither states a place, a width or a sign again.
+/// A member of a record, as the struct declares it. The rows of record diffs and the descriptions in the program are
+/// made from it, so that neither repeats an offset, a width or a sign.
 template <class Record, class Type>
 struct Member {
     const char* record;

@@ -6,7 +6,8 @@
 #include <cstddef>
 #include <type_traits>
 
-/// The kinds of profiles, the templates among them. Whatever exists once for each kind is made of this list.
+/// The kinds of profiles, including the templates. Everything that exists once for each kind is generated from this
+/// list.
 ///
 /// KIND(part, array, record, tables, lookup, prefix, name, called):
 /// - part, array   profiles are the elements of `GPonCfg::part.array`; `View::array` is the view of one, in the program
@@ -14,7 +15,7 @@
 /// - record        their struct; `getdiff_<record>` is its record diff
 /// - tables        their names are in `<tables>2id_connection` and `def_<tables>2id_connection` ...
 /// - lookup        ... and come from `get<lookup>Name` and `def_get<lookup>Name`
-/// - prefix, name  how the CLI enters one, such as `profile vlan "office"`; the name stands for the kind elsewhere, too
+/// - prefix, name  how the CLI enters one, such as `profile vlan "office"`; the name also identifies the kind elsewhere
 /// - called        what messages call one
 // clang-format off
 #define PON_PROFILE_KINDS(KIND)                                                                                        \

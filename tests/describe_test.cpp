@@ -175,12 +175,35 @@ TEST(Describe, EveryEnumerationIsTheRegistrys)
                 continue;
             }
             bool known = false;
-            for (int value = 0; value < 16 && !known; value++) {
+            for (int value = 0; value < 16 && !known; ++value) {
                 known = gpon_enum_find_name_by_type(field.enumeration, value) != unknown;
             }
             EXPECT_TRUE(known) << name << "." << field.name << " " << field.enumeration;
         }
     }
+}
+
+/// Documents show the registry's words, commands the library's own: on hosts, they are the same.
+TEST(Describe, RegistryHasTheWordsOfTheLibrary)
+{
+    const std::string unknown = gpon_enum_find_name_by_type("", 0);
+    std::size_t compared = 0;
+    for (const auto& [name, record] : all_records()) {
+        for (const Field& field : *record) {
+            if (field.form != Form::enumeration || field.syntax.vocabulary == nullptr) {
+                continue;
+            }
+            for (int value = 0; value < 1024; ++value) {
+                const std::string word = gpon_enum_find_name_by_type(field.enumeration, value);
+                const char* const own = field.syntax.vocabulary(value);
+                if (word != unknown) {
+                    EXPECT_EQ(own == nullptr ? "" : own, word) << name << "." << field.name << " " << value;
+                    ++compared;
+                }
+            }
+        }
+    }
+    EXPECT_GT(compared, 100U);
 }
 
 TEST(Describe, EveryArrayNamesItsElements)

@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr char UNTOUCHED = '\x5A';
+constexpr char untouched = '\x5A';
 
 /// What one request wrote: `touched` is false when not a single byte of the caller's buffer was.
 struct Way {
@@ -24,11 +24,11 @@ using Key = std::array<int, 10>;
 Way go_with(const std::string& view, const Key& key)
 {
     // Blocks of their own, so that a sanitizer sees every access beyond them.
-    std::vector<char> out(1024, UNTOUCHED);
+    std::vector<char> out(1024, untouched);
     std::vector<int> ids(key.begin(), key.end());
     Way way{};
     way.result = goto_view_buf(view.c_str(), ids.data(), out.data());
-    way.touched = out != std::vector<char>(1024, UNTOUCHED);
+    way.touched = out != std::vector<char>(1024, untouched);
     EXPECT_TRUE(std::equal(ids.begin(), ids.end(), key.begin())) << "the key is only read";
     if (way.touched) {
         EXPECT_NE(std::memchr(out.data(), '\0', out.size()), nullptr) << "no terminator";
@@ -72,7 +72,7 @@ struct Entered {
     const char* view;
     const char* command;
 };
-constexpr Entered ENTERED[] = {
+constexpr Entered entered[] = {
     {"if-gpon-view", "interface gpon-port    7"},
     {"if-ont-view", "interface ont 0/7"},
     {"address-table-view", "profile address-table \"addresses\""},
@@ -142,7 +142,7 @@ class Views : public testing::Test {
 TEST_F(Views, FromTheTopLevelAndBack)
 {
     open_named();
-    for (const Entered& to : ENTERED) {
+    for (const Entered& to : entered) {
         SCOPED_TRACE(to.view);
         EXPECT_EQ(text(to.view, 7), std::string("configure terminal\n") + to.command);
         expect_position(to.view, 7);
@@ -159,7 +159,7 @@ TEST_F(Views, FromTheConfigurationModeAndBack)
 {
     open_named();
     text("configure-view");
-    for (const Entered& to : ENTERED) {
+    for (const Entered& to : entered) {
         SCOPED_TRACE(to.view);
         EXPECT_EQ(text(to.view, 7), to.command);
         expect_position(to.view, 7);
@@ -171,8 +171,8 @@ TEST_F(Views, FromTheConfigurationModeAndBack)
 TEST_F(Views, FromEveryViewOfAnObjectToEveryOther)
 {
     open_named();
-    for (const Entered& from : ENTERED) {
-        for (const Entered& to : ENTERED) {
+    for (const Entered& from : entered) {
+        for (const Entered& to : entered) {
             SCOPED_TRACE(std::string(from.view) + " to " + to.view);
             stand_in("root", 0);
             text(from.view, 7);
@@ -189,7 +189,7 @@ TEST_F(Views, FromEveryViewOfAnObjectToEveryOther)
 TEST_F(Views, FromOneObjectToAnotherOfTheSameView)
 {
     open_named();
-    for (const Entered& view : ENTERED) {
+    for (const Entered& view : entered) {
         SCOPED_TRACE(view.view);
         current_view = {"root", {}};
         text(view.view, 6);
@@ -295,7 +295,7 @@ TEST_F(Views, TheOldNameIsPreferredToTheNewOne)
     name_object_seven(*session.cfg);
     name_object_seven(*session.orig, "old ");
     session.open();
-    for (const Entered& to : ENTERED) {
+    for (const Entered& to : entered) {
         std::string command = to.command;
         const std::size_t quote = command.find('"');
         if (quote == std::string::npos)
@@ -331,7 +331,7 @@ TEST_F(Views, ANameOfSixteenCharactersHasNoTerminator)
 TEST_F(Views, ASlotWithoutANameGivesEmptyQuotes)
 {
     session.open();
-    for (const Entered& to : ENTERED) {
+    for (const Entered& to : entered) {
         const std::string command = to.command;
         const std::size_t quote = command.find('"');
         if (quote == std::string::npos)

@@ -46,7 +46,7 @@ typedef u8 GOntSerial_t[8];      /* 4 vendor bytes, 4 serial bytes */
 typedef char GOntPassword_t[11]; /* up to 10 characters and the terminator */
 typedef u8 GSNMPEngineID_t[13];
 
-/* Enumerations that the device's registry names, under the type's name with _enum in place of _t. */
+/* Enumerations whose CLI words come from the device's registry, under the type's name with _enum in place of _t. */
 typedef u16 GVlanForwardingMode_t;
 typedef u16 GOntMulticastIpVersion_t;
 typedef u16 GOpticsPolarity_t;
@@ -63,7 +63,8 @@ typedef u16 GSnmpTrapType_t;
 typedef u16 GOntSnDisplayFormatType_t; /* 0 = pretty, 1 = dense, 2 = dashed */
 typedef u16 GPonOntAuthenticationMode_t;
 
-/* Enumerations that the registry does not name. */
+/* Other enumerations. The CLI shows them in words of the library's own, as numbers, or not at all. The registry may
+ * name them, too: documents use its names. */
 typedef u16 GOpticsSDSource_t;        /* 0 = laser-sd, 1 = bcdr-lock, 2 = bcdr-sd */
 typedef u16 GOpticsResetType_t;       /* 0 = delay-based, 1 = single-reset, 2 = double-reset */
 typedef u16 GOpticsResetTypeNormal_t; /* 0 = start-burst-based, 1 = end-burst-based */

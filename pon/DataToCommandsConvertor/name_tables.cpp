@@ -32,16 +32,16 @@ int sn_format;
 
 namespace {
 
-/// A table of names and where the named objects stand in a configuration.
+/// A table of names, and where a configuration holds the named objects.
 struct NameTable {
     char** names;
     char** old_names; ///< null where only the new configuration is named
     std::size_t slots;
     std::size_t first; ///< offset of the first object in GCfg
     std::size_t stride;
-    std::size_t exists; ///< offsets in the object: the flag that says it is there, ...
+    std::size_t exists; ///< offset in the object of the flag that says it exists
     std::size_t exists_size;
-    std::size_t name; ///< ... and its name
+    std::size_t name; ///< offset in the object of its name
     std::size_t name_size;
 };
 
@@ -70,7 +70,7 @@ bool any_byte_set(const char* bytes, std::size_t size)
     return false;
 }
 
-/// A name that may fill its array to the last byte.
+/// A copy on the heap of a name, which may fill its array to the last byte.
 char* copy_of(const char* name, std::size_t capacity)
 {
     const std::size_t size = strnlen(name, capacity);
@@ -82,7 +82,7 @@ char* copy_of(const char* name, std::size_t capacity)
     return copy;
 }
 
-/// The names of every object that exists, each in a block of its own; the table is empty before.
+/// Puts the names of all objects that exist into an empty table, each in its own heap block.
 bool fill(const NameTable& table, char** names, const GCfg& configuration)
 {
     const char* object = reinterpret_cast<const char*>(&configuration) + table.first;

@@ -20,7 +20,7 @@ const char* row_of(const char (&rows)[Slots][16], int index)
     return index >= 0 && index < Slots ? rows[index] : nullptr;
 }
 
-/// A command that shows its object by a name, empty where it is null. `prefix` is how it begins.
+/// A command that shows its object by name; a null name is shown as an empty text. `prefix` is how it begins.
 struct NamedCommand {
     template <std::size_t N>
     constexpr NamedCommand(const char (&begins)[N], const char* in_front, const char* behind,
@@ -30,8 +30,8 @@ struct NamedCommand {
     }
     const char* prefix;
     std::size_t size;
-    const char* before; ///< what stands before the name and ...
-    const char* after;  ///< ... behind it
+    const char* before; ///< text before the name
+    const char* after;  ///< text after the name
     const char* (*name)(int index);
 };
 
@@ -47,7 +47,7 @@ constexpr NamedCommand named_commands[] = {
     {"ip source-guard bind ip $ID0", "ip source-guard bind ip ", " ", [](int i) { return row_of(sourceguardip, i); }},
 };
 
-/// `first_mark` is where the first mark of the line stands: a named command's prefix ends with it and the digit 0.
+/// `first_mark` is the position of the line's first mark: a named command's prefix ends with it and the digit 0.
 void name_first_identifier(Text& line, std::size_t first_mark, int id)
 {
     const std::size_t prefix_size = first_mark + mark_size + 1;
@@ -64,7 +64,7 @@ void name_first_identifier(Text& line, std::size_t first_mark, int id)
             line.fail();
             return;
         }
-        // The blank behind the placeholder goes with it: the name brings its own.
+        // The blank after the placeholder is removed with it: `after` has one.
         line.replace_front(std::min(prefix_size + 1, line.size()), shown);
         return;
     }
@@ -72,7 +72,7 @@ void name_first_identifier(Text& line, std::size_t first_mark, int id)
 
 enum class Slot { none, number, outside };
 
-/// Reads the slot number behind a mark as the scanning conversion %d does: blanks and a sign are skipped.
+/// Reads the slot number after a mark as scanf's %d does: blanks and a sign are skipped.
 Slot read_slot(const char* at, const char* end, int& slot)
 {
     while (at != end && (*at == ' ' || (*at >= '\t' && *at <= '\r')))
@@ -113,7 +113,7 @@ void substitute(Text& line, const int* key)
         return;
     name_first_identifier(line, static_cast<std::size_t>(first_mark - line.data()), key[of_object]);
 
-    int slot = 0; // a mark without a number takes the number read last
+    int slot = 0; // a mark without a number uses the number read last
     std::size_t done = 0;
     while (char* const at = find_mark(line.data() + done, line.data() + line.size())) {
         done = static_cast<std::size_t>(at - line.data());
@@ -123,7 +123,7 @@ void substitute(Text& line, const int* key)
         }
         done += identifier_width;
         if (done > line.size())
-            line.append(' '); // a mark at the very end: four characters are written all the same
+            line.append(' '); // a mark at the very end is also replaced by four characters
         if (done > line.size())
             return;
         put_identifier(line.data() + done - identifier_width, key[slot]);

@@ -5,7 +5,7 @@
 
 namespace pondiff {
 
-/// Replaces every "$ID" placeholder of a finished template, the ones that values brought along included.
+/// Replaces every "$ID" placeholder in a formatted line, including those that came with a value.
 void substitute(Text& line, const int* key);
 
 } // namespace pondiff

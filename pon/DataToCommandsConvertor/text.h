@@ -8,16 +8,17 @@
 
 namespace pondiff {
 
-/// The first four characters of the "%4d" of a number: what fits in place of a placeholder.
+/// Writes the first four characters of a number formatted with "%4d": the size of a placeholder.
 void put_identifier(char* out, int value);
 constexpr std::size_t identifier_width = 4;
 
-/// For a Text that is made for every line: the hardening, which zeroes all other locals, leaves its memory alone.
+/// For a Text that is created for every line: the compiler's hardening does not zero its memory, as it does for all
+/// other locals.
 #define PON_SCRATCH __attribute__((uninitialized))
 
-/// Scratch text being built. It lives on the stack and holds a command line of the usual length there; only what a
-/// caller's own long prefix or a foreign platform library's long word exceeds goes to the heap. When memory cannot be
-/// had, the text stays as it is and `failed` tells.
+/// A text under construction. It lives on the stack, which has room for any usual command line; only a longer one, by a
+/// caller's own prefix or a word of another platform library, moves to the heap. When an allocation fails, the text
+/// stays as it is and `failed` returns true.
 class Text {
   public:
     Text() = default;
@@ -38,11 +39,11 @@ class Text {
     }
     void append_natural(std::uint64_t value);
     void append_decimal(std::int64_t value);
-    /// As the printing conversion %4d does: right-aligned in four characters, wider values in full.
+    /// Like printf's %4d: right-aligned in four characters, wider values in full.
     void append_aligned(int value);
-    /// Puts `text` in place of the first `count` bytes.
+    /// Replaces the first `count` bytes by `text`.
     void replace_front(std::size_t count, const Text& text);
-    /// Notes that a part of the text could not be had.
+    /// Records that part of the text is missing.
     void fail() { failed_ = true; }
 
     char* data() { return data_; }
@@ -51,7 +52,7 @@ class Text {
     char* c_str();
     std::size_t size() const { return size_; }
     bool failed() const { return failed_; }
-    /// A copy on the heap that `free` releases; null when the allocation fails or part of the text was lost.
+    /// A copy on the heap that `free` releases; null when the allocation fails or part of the text is missing.
     char* release_copy() const;
 
   private:

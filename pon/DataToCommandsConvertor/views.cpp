@@ -57,23 +57,23 @@ std::optional<View> view_alike(const char* name)
     return std::nullopt;
 }
 
-const char* standing_name()
+const char* current_name()
 {
     return current_view.name ? current_view.name : data_of(View::root).name;
 }
 
-/// The view that is left on the way to `wanted`.
-std::optional<View> standing_view(std::optional<View> wanted)
+/// The current view, as seen on the way to `wanted`.
+std::optional<View> view_before(std::optional<View> wanted)
 {
-    const char* const name = standing_name();
-    // A view that is misspelt in the device's table of ways: there are ways to two others, as from the one meant.
+    const char* const name = current_name();
+    // The device's transition table misspells this view. From it, these two views are reached as from the one meant.
     if ((wanted == View::ports || wanted == View::voice) && std::strcmp(name, "managemant-view") == 0) {
         return View::management;
     }
     return view_named(name);
 }
 
-/// Names come from the old configuration where it has the object: there the script meets it.
+/// An object that the old configuration has is entered by its old name, which the device still knows it by.
 void append_identifier(View view, int id, Text& out)
 {
     const ViewData& data = data_of(view);
@@ -92,8 +92,8 @@ void append_identifier(View view, int id, Text& out)
     }
 }
 
-/// Every way leads up to the configuration mode, or to the top level where that is wanted, and down from there.
-void append_way(View from, View to, const int* key, Text& out)
+/// Every path leads up to the configuration mode, or to the top level when that is the target, and down from there.
+void append_path(View from, View to, const int* key, Text& out)
 {
     const char* separator = "";
     const auto line = [&](const char* command) {
@@ -122,23 +122,23 @@ void move_to(View view, const int* key)
     std::memmove(current_view.key, key, sizeof current_view.key); // the key may be the view's own
 }
 
-/// `wanted` is none for a name that only begins like a view's, the standing view for one that is no view's. Without
-/// the one or the other there is no way, and what is left of it leads through the top level.
+/// `wanted` is empty for a name that is only a prefix of a view's, or the other way round; the current view is empty
+/// when its name is no view's. Without either there is no direct path, and the script goes through the top level.
 void leave_for(std::optional<View> wanted, const int* key, Text& out)
 {
-    const std::optional<View> standing = standing_view(wanted);
-    if (standing && wanted) {
-        append_way(*standing, *wanted, key, out);
+    const std::optional<View> current = view_before(wanted);
+    if (current && wanted) {
+        append_path(*current, *wanted, key, out);
         move_to(*wanted, key);
         return;
     }
-    if (standing && *standing != View::root) {
-        append_way(*standing, View::root, key, out);
+    if (current && *current != View::root) {
+        append_path(*current, View::root, key, out);
         current_view.name = data_of(View::root).name;
     }
     out.append('\n');
     if (wanted && *wanted != View::root) {
-        append_way(View::root, *wanted, key, out);
+        append_path(View::root, *wanted, key, out);
         move_to(*wanted, key);
     }
 }
@@ -147,7 +147,7 @@ void leave_for(std::optional<View> wanted, const int* key, Text& out)
 
 void goto_view(View view, const int* key, Text& out)
 {
-    if (!alike(standing_name(), data_of(view).name) || !same_object(view, key)) {
+    if (!alike(current_name(), data_of(view).name) || !same_object(view, key)) {
         leave_for(view, key, out);
     }
 }
@@ -166,7 +166,7 @@ int goto_view_buf(const char* view, int* key, char* out)
         std::printf("\n\n\n\nVIEW %s NOT FOUND!!!!!!!!!!!!!!\n\n\n", view);
         return -1;
     }
-    if (alike(standing_name(), view) && same_object(*known, key)) {
+    if (alike(current_name(), view) && same_object(*known, key)) {
         return 0;
     }
     const view_state before = current_view;

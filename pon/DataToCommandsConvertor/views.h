@@ -11,7 +11,7 @@
 
 namespace pondiff {
 
-/// The views of the CLI: the top level, the configuration mode, and below it the views that each edit one object; each
+/// The views of the CLI: the top level, the configuration mode, and below it the views that edit one object each. Each
 /// kind of profile has one.
 enum class View : std::uint8_t {
     root,
@@ -26,7 +26,7 @@ enum class View : std::uint8_t {
 constexpr std::size_t view_count = static_cast<std::size_t>(View::container) + 1 + profile_kind_count;
 
 struct ViewData {
-    const char* name;  ///< what `current_view` and `goto_view_buf` call it
+    const char* name;  ///< as in `current_view` and `goto_view_buf`
     const char* enter; ///< the command that enters it from the configuration mode; the object's identifier follows
     char* const* names = nullptr; ///< of the objects, where the CLI knows them by name
     char* const* old_names = nullptr;
@@ -41,19 +41,19 @@ inline const ViewData& data_of(View view)
     return views[static_cast<std::size_t>(view)];
 }
 
-/// The top level and the configuration mode are one place each, whatever the key.
+/// The top level and the configuration mode ignore the key.
 constexpr bool edits_object(View view)
 {
     return view > View::configure;
 }
 
-/// True when `key` names the object that the script stands at, were its view `view`.
+/// True when `key` names the current object, given that the current view is `view`.
 inline bool same_object(View view, const int* key)
 {
     return !edits_object(view) || current_view.key[of_object] == key[of_object];
 }
 
-/// True when the script already stands in `view` at the object `key`.
+/// True when the script is already in `view` at the object `key`.
 inline bool stands_at(View view, const int* key)
 {
     return current_view.name == data_of(view).name && same_object(view, key);

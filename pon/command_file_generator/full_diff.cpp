@@ -55,13 +55,13 @@ bool getdiff_GCfg(GCfg* lhs, GCfg* rhs, int* key, List<char>& out)
 
 bool getdiff_GPonCfg(GPonCfg* lhs, GPonCfg* rhs, int* key, List<char>& out)
 {
-    if (nothing_to_say(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs))
         return false;
     descend(changed_or_all, getdiff_GPonNetworkCfg, lhs->network, rhs->network, key, out);
     descend(changed_or_all, getdiff_GPonProfilesOlt, lhs->profiles_olt, rhs->profiles_olt, key, out);
     descend(changed_or_all, getdiff_GPonProfilesOnt, lhs->profiles_ont, rhs->profiles_ont, key, out);
     descend(changed_or_all, getdiff_GPonOltCfg, lhs->olt, rhs->olt, key, out);
-    // Equal ONTs are never shown.
+    // An equal ONT is never shown, not even by a full dump.
     descend_each(changed_only, getdiff_GPonOntCfg, lhs->ont, rhs->ont, of_object, key, out);
     return false;
 }

@@ -9,15 +9,15 @@
 
 namespace pondiff {
 
-/// How the text of an operation ends: as the last command leaves it, or with "commit" when there is any text.
+/// How the text of an operation ends: with its last command, or with "commit" when there is any text.
 enum class Ending { plain, commit };
 
-/// One exported operation from its empty list and zeroed key to the text that it returns.
+/// One exported operation, from an empty list and a zeroed key to the text that it returns.
 class Operation {
   public:
     void go_to(View view);
-    /// The text on the heap, for the caller. Null when it could not be had whole: the script was not issued, so the
-    /// current view goes back to where it was.
+    /// The text on the heap, for the caller. When an allocation has failed, null: nobody runs the script then, so
+    /// `current_view` becomes what it was.
     char* finish(Ending ending);
 
     int key[key_slots] = {};

@@ -10,8 +10,8 @@ using namespace pondiff;
 
 namespace {
 
-/// An operation that opens with the navigation to the global configuration and closes with the one back to the top.
-/// Both are part of its text even when nothing differs.
+/// An operation that enters the configuration mode first and returns to the top level last. Both navigations are part
+/// of its text even when nothing differs.
 template <class Body>
 char* from_configure_view(Ending ending, Body body)
 {

@@ -6,7 +6,8 @@ const char* pondiff_version()
     return PONDIFF_VERSION_STRING;
 }
 
-// Each twin forwards unchanged. GetSystemDiff_c renders the PON part: callers depend on it.
+// Each forwards to the C++ operation of its name, except that GetSystemDiff_c renders the PON part: callers depend on
+// it.
 
 int initiate_diff_c(GCfg_t* orig, GCfg_t* cfg, int need_all_cfg, int common_type)
 {

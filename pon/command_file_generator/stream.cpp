@@ -6,7 +6,7 @@ FILE* file_to_dump;
 
 namespace {
 
-/// Publishes the caller's stream for as long as an operation lasts.
+/// Makes the caller's stream visible in `file_to_dump` during an operation.
 class PublishedStream {
   public:
     explicit PublishedStream(FILE* file)

@@ -5,23 +5,23 @@
 
 namespace pondiff {
 
-const Comparison* Comparison::under_way_;
+const Comparison* Comparison::current_;
 
 Comparison::Comparison(const void* lhs, const void* rhs, std::size_t size)
     : lhs_(static_cast<const char*>(lhs)), rhs_(static_cast<const char*>(rhs)),
-      size_(std::min(size, block_size * most_blocks)), outer_(under_way_)
+      size_(std::min(size, block_size * most_blocks)), outer_(current_)
 {
     for (std::size_t block = 0; block * block_size < size_; ++block) {
         const std::size_t at = block * block_size;
         if (std::memcmp(lhs_ + at, rhs_ + at, std::min(block_size, size_ - at)) != 0)
             blocks_[block / 64] |= std::uint64_t{1} << (block % 64);
     }
-    under_way_ = this;
+    current_ = this;
 }
 
 Comparison::~Comparison()
 {
-    under_way_ = outer_;
+    current_ = outer_;
 }
 
 bool Comparison::range_differs(std::size_t offset, std::size_t size) const
@@ -43,9 +43,9 @@ bool Comparison::range_differs(std::size_t offset, std::size_t size) const
 bool Comparison::differ(const void* lhs, const void* rhs, std::size_t size)
 {
     constexpr std::size_t worth_looking_up = 256;
-    const Comparison* const known = under_way_;
+    const Comparison* const known = current_;
     if (known && size >= worth_looking_up) {
-        // Unsigned: what begins in front of the compared bytes lies far behind them.
+        // Unsigned: an address below the compared bytes becomes an offset far beyond them.
         const std::size_t offset =
             reinterpret_cast<std::uintptr_t>(lhs) - reinterpret_cast<std::uintptr_t>(known->lhs_);
         const std::size_t other = reinterpret_cast<std::uintptr_t>(rhs) - reinterpret_cast<std::uintptr_t>(known->rhs_);

@@ -6,13 +6,13 @@
 
 namespace pondiff {
 
-/// What one pass over two configurations has found out, for as long as the operation lasts: which of their blocks
-/// differ. Containers ask about the same bytes at every level, from the whole configuration down to the element; with
-/// this, only a block that differs is ever read again, and one changed ONT costs little more than one reading of the
-/// two configurations instead of three.
+/// Which blocks of two configurations differ, found in one pass and kept for the duration of an operation. Containers
+/// compare the same bytes at every level, from the whole configuration down to the element. With this, only blocks that
+/// differ are read again: for one changed ONT, the two configurations are read little more than once instead of three
+/// times.
 ///
-/// A selective-tunnel list that is sorted in place may make its block stale. Nothing asks about such a list again: it
-/// is sorted by the last diff that sees it.
+/// Sorting a selective-tunnel list in place may make its block stale. That does no harm: the list is sorted by the last
+/// diff that reads it.
 class Comparison {
   public:
     Comparison(const void* lhs, const void* rhs, std::size_t size);
@@ -20,7 +20,7 @@ class Comparison {
     Comparison(const Comparison&) = delete;
     Comparison& operator=(const Comparison&) = delete;
 
-    /// Whether two parts differ: looked up where they are the same part of what has been compared, else read.
+    /// Whether two parts differ. Looked up when both are the same part of what has been compared, otherwise read.
     static bool differ(const void* lhs, const void* rhs, std::size_t size);
 
   private:
@@ -30,7 +30,7 @@ class Comparison {
     bool block_differs(std::size_t block) const { return (blocks_[block / 64] >> (block % 64) & 1) != 0; }
     bool range_differs(std::size_t offset, std::size_t size) const;
 
-    static const Comparison* under_way_;
+    static const Comparison* current_;
 
     const char* lhs_;
     const char* rhs_;

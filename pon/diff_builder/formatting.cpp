@@ -134,9 +134,9 @@ void str_replace(char* text, const char* needle, const char* replacement)
     if (!text || !needle || !replacement)
         return;
     const std::size_t size = std::strlen(replacement);
-    // Written over an occurrence, the needle's own beginning changes nothing; nor is there anything to find for an
-    // empty needle. Every other replacement makes the text differ, and always in the same direction of the order of
-    // its bytes at the first place where the two texts differ: the search ends.
+    // A replacement that is a prefix of the needle would change nothing, so the search would never end; an empty needle
+    // would be found everywhere. Any other replacement makes the text larger, or smaller, in the order of its bytes
+    // each time: the search ends.
     if (*needle == '\0' || std::strncmp(needle, replacement, size) == 0)
         return;
     const bool again_behind = std::strstr(replacement, needle) != nullptr;

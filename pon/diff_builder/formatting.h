@@ -9,8 +9,8 @@
 
 namespace pondiff {
 
-/// A value on its way into a command: what it is and how it is written. It refers to texts and addresses, so it does
-/// not outlive the record that it was taken from.
+/// A value to be written into a command, and how it is written. It points to texts and addresses, so it must not
+/// outlive the record that it was taken from.
 class Value {
   public:
     enum class Notation : std::uint8_t {
@@ -23,14 +23,14 @@ class Value {
         ipv6,
         text,
         channel_format, ///< a text in which the marker of the GPON port is renamed
-        mac,            ///< from here on the platform's library writes
+        mac,            ///< this and the following are written by the platform library
         serial,
         engine_id,
     };
 
     /// A constant text or name; null is the empty text.
     Value(const char* text) : Value(Notation::text, text ? text : "", text ? std::strlen(text) : 0) {}
-    /// A text field has no terminator that can be relied on: `text_of(field)` knows its array.
+    /// A text field may lack its terminator: use `text_of(field)`, which knows the size of the array.
     Value(char* field) = delete;
     Value(int number) : notation_(Notation::decimal), number_(number) {}
     Value(unsigned number) : notation_(Notation::natural), number_(number) {}
@@ -49,7 +49,7 @@ class Value {
     static Value of_bytes(Notation notation, const void* bytes) { return {notation, bytes, 0}; }
 
     void append_to(Text& out) const;
-    /// Whether what is written may hold a placeholder of its own.
+    /// Whether the text written may itself contain a placeholder.
     bool may_hold_mark() const
     {
         return notation_ >= Notation::mac ||
@@ -60,7 +60,7 @@ class Value {
     Value(Notation notation, const void* bytes, std::size_t size) : notation_(notation), size_(size), bytes_(bytes) {}
 
     Notation notation_;
-    std::size_t size_ = 0; ///< of a text; the least count of digits of a hexadecimal number
+    std::size_t size_ = 0; ///< of a text; the least number of digits of a hexadecimal number
     union {
         std::int64_t number_;
         const void* bytes_;
@@ -95,7 +95,7 @@ Value channel_format_of(const char (&field)[N])
     return Value::of_text(field, N, Value::Notation::channel_format);
 }
 
-/// Room for what each of the platform's converters may write, terminator included.
+/// How much each of the platform's converters may write, terminator included.
 constexpr std::size_t mac_size = 25;
 constexpr std::size_t serial_size = 24;
 constexpr std::size_t engine_id_size = 29;
@@ -103,7 +103,7 @@ constexpr std::size_t engine_id_size = 29;
 /// The registry's word for an enumeration value of which the low 16 bits count; never null.
 const char* enum_word(const char* type, std::int64_t value);
 
-/// Writes a template: each of its conversions (%s, %d or %u, the value knows how it is written) takes the next value.
+/// Writes a template. Each conversion takes the next value: %s, %d or %u alike, since the value knows its notation.
 void append_formatted(Text& out, const char* format, const Value* values, std::size_t count);
 
 } // namespace pondiff

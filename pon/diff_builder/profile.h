@@ -2,22 +2,22 @@
 #define PON_DIFF_BUILDER_PROFILE_H
 
 /// @file
-/// What the profile kinds share. Each begins with the same four fields; how a profile is created, named and described
-/// is the same for most kinds, and the others put the same steps together in their own way.
+/// What the profile kinds share. Each record begins with the same four fields. Most kinds are created, named and
+/// described the same way; the others combine the same steps differently.
 
 #include "pon/diff_builder/rows.h"
 
 namespace pondiff {
 
-/// A slot that is free on both sides, or a record with nothing to say.
+/// A slot that is free on both sides, or a record with nothing to emit.
 template <class Profile>
 bool no_profile(const Profile* lhs, const Profile* rhs)
 {
-    return nothing_to_say(lhs, rhs) || (lhs->exist == 0 && rhs->exist == 0);
+    return nothing_to_emit(lhs, rhs) || (lhs->exist == 0 && rhs->exist == 0);
 }
 
-/// The new name, when a profile that existed is renamed or the rule forces it. A new profile gets its name by its
-/// view being entered.
+/// The new name, when a profile that existed is renamed or the rule forces it. Entering the view of a new profile names
+/// it.
 template <class Profile>
 void emit_profile_name(Rule rule, const Profile* lhs, const Profile* rhs, const Where& where)
 {
@@ -25,7 +25,7 @@ void emit_profile_name(Rule rule, const Profile* lhs, const Profile* rhs, const 
         emit(where, "name \"%s\"", text_of(rhs->name));
 }
 
-/// A profile that did not exist is created by entering its view: the navigation stands alone.
+/// A profile that did not exist is created by entering its view: the navigation is all that is emitted.
 template <class Profile>
 void enter_new_profile(const Profile* lhs, const Profile* rhs, const Where& where)
 {
@@ -40,7 +40,7 @@ void emit_profile_description(const Profile* lhs, const Profile* rhs, const Wher
         emit(where, "description \"%s\"", text_of(rhs->description));
 }
 
-/// How most kinds begin.
+/// The first commands of most kinds.
 template <class Profile>
 void emit_profile_head(const Profile* lhs, const Profile* rhs, const Where& where)
 {
@@ -49,8 +49,8 @@ void emit_profile_head(const Profile* lhs, const Profile* rhs, const Where& wher
     emit_profile_description(lhs, rhs, where);
 }
 
-/// A format by which a relay agent identifies a subscriber, and whether what it gives is sent in binary form. The mode
-/// shows with its format: by itself it is no change.
+/// The format of a subscriber's identifier that a relay agent sends, and whether it is sent in binary form. A change of
+/// the mode alone emits nothing.
 template <std::size_t N>
 void emit_id_format(const Where& where, const char* command, const char (&lhs)[N], const char (&rhs)[N],
                     GDataMode_t mode)
@@ -59,7 +59,8 @@ void emit_id_format(const Where& where, const char* command, const char (&lhs)[N
         emit(where, command, channel_format_of(rhs), mode != 0 ? " binary" : "");
 }
 
-/// The version and file of the ONT's configuration, one command. A new file is seen only together with a new version.
+/// The version and file of the ONT's configuration, one command. A new file is emitted only together with a new
+/// version.
 template <class Profile>
 void emit_ont_config(const Profile* lhs, const Profile* rhs, const Where& where)
 {

@@ -34,7 +34,7 @@ bool holds_number(const RowData& row)
     return row.notation <= Value::Notation::ber_interval;
 }
 
-/// The values of a template: the one that leads all of the table's commands, if there is one, and the row's own.
+/// Formats a template with the leading value of the table's commands, if there is one, and the row's own values.
 void format_command(Text& line, const Where& where, const char* format, const Value* values, std::size_t count)
 {
     if (const char* const behind_lead = where.lead ? std::strchr(format, '%') : nullptr) {
@@ -56,7 +56,7 @@ bool navigate(const Where& where)
     goto_view(where.view, where.key, text);
     if (push(where.out, text))
         return true;
-    current_view = before; // the script never gets there: the next command has to
+    current_view = before; // the navigation is not in the script: the next command needs one
     return false;
 }
 
@@ -77,7 +77,7 @@ bool append_values(List<char>& out, const char* format, const Value* values, std
 
 namespace {
 
-/// `emit` of a row's template, whose parts are known: up to the first conversion, between the two, and the rest.
+/// `emit` for a row's template, whose parts are known: up to the first conversion, between the two, and the rest.
 void emit_parts(const Where& where, const char* format, const RowData::Parts& parts, const Value* value)
 {
     constexpr std::uint8_t none = RowData::Parts::none;
@@ -86,7 +86,7 @@ void emit_parts(const Where& where, const char* format, const RowData::Parts& pa
     PON_SCRATCH Text text;
     std::size_t done = 0;
     std::uint8_t next = parts.first;
-    std::size_t mark = parts.mark; // where the placeholder comes to stand
+    std::size_t mark = parts.mark; // position of the placeholder in the text
     bool values_hold_marks = false;
     const auto fill = [&](const Value& filling) {
         text.append(format + done, next - done);
@@ -104,7 +104,7 @@ void emit_parts(const Where& where, const char* format, const RowData::Parts& pa
         fill(*value);
     text.append(format + done, parts.size - done);
     const int slot = parts.mark != none ? format[parts.mark + 3] - '0' : -1;
-    // The object may be shown by a name; every other placeholder of a template is a number in its own place.
+    // The object may be shown by name; any other placeholder is overwritten by a number of the same width.
     if (values_hold_marks || slot == of_object)
         substitute(text, where.key);
     else if (slot != -1 && !text.failed())

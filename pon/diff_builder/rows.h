@@ -2,12 +2,12 @@
 #define PON_DIFF_BUILDER_ROWS_H
 
 /// @file
-/// What a record diff is written with. Most of it is a table of rows, each a field and its command, that
-/// `emit_changed` goes through; what does not fit a row is plain code with `emit`, `navigate` and `append`. They own
-/// every buffer: no record diff sees one.
+/// What record diffs are written with. Most of a record diff is a table of rows, each a field and its command, which
+/// `emit_changed` walks; what does not fit a row is plain code with `emit`, `navigate` and `append`. These own all
+/// buffers: no record diff handles one.
 ///
-/// To add a command: add a row where it belongs in the order of the commands. The verb says how the value becomes
-/// text, the field's width and sign come from the struct.
+/// To add a command: add a row where it belongs in the order of the commands. The verb says how the value is
+/// written; the field's width and sign come from the struct.
 
 #include "pon/DataToCommandsConvertor.h"
 #include "pon/DataToCommandsConvertor/key.h"
@@ -37,17 +37,17 @@ bool wanted(Rule rule, const T& lhs, const T& rhs)
     return forced(rule) || Comparison::differ(&lhs, &rhs, sizeof(T));
 }
 
-/// The first thing that a record diff asks: without `print_all`, two equal records say nothing, nor does a null one.
+/// What each record diff checks first: it emits nothing for a null record or, without `print_all`, for equal ones.
 template <class T>
-bool nothing_to_say(const T* lhs, const T* rhs)
+bool nothing_to_emit(const T* lhs, const T* rhs)
 {
     return !lhs || !rhs || !wanted(changed_or_all, *lhs, *rhs);
 }
 
 // ------------------------------------------------------------------------------------------------------ the script
 
-/// Where commands go: the CLI view they are valid in, the object's key, the list, and a value that fills the first
-/// conversion of every template (a direction, a service's prefix, a port's number), if there is one.
+/// Where commands go: the CLI view they are valid in, the object's key and the list. `lead`, if any, is the value of
+/// the first conversion of every template: a direction, a service's prefix, a port's number.
 struct Where {
     View view;
     int* key;
@@ -55,8 +55,8 @@ struct Where {
     const Value* lead = nullptr;
 };
 
-/// Appends the navigation to the view and object; an empty element when the script stands there. Like the others, it
-/// tells whether the text could be had; a record diff need not ask, the operation under way remembers it.
+/// Appends the navigation to the view and object, an empty element when the script is already there. Returns false when
+/// an allocation fails, as do the functions below. A record diff may ignore that: the operation remembers it.
 bool navigate(const Where& where);
 
 /// Formats the template, substitutes placeholders and appends, without navigation.
@@ -79,7 +79,7 @@ bool append(List<char>& out, const char* format, Values... values)
     return append_values(out, format, list, sizeof...(values));
 }
 
-/// What nearly every command is: the navigation to its view, then the command.
+/// The usual case: the navigation to the command's view, then the command.
 template <class... Values>
 bool emit(const Where& where, const char* format, Values... values)
 {
@@ -102,34 +102,34 @@ struct RowData {
         const char* words; ///< a command, or the name of a vocabulary
         const char* (*name)(int);
     };
-    /// The parts of a template, worked out when it is compiled: none is searched when it is emitted, which saves a
-    /// sixth of what a line costs.
+    /// The parts of a template, found at compile time: nothing is searched at run time, which saves a sixth of the time
+    /// of a line.
     struct Parts {
         constexpr Parts(const char* format)
         {
             for (; format && format[size] != '\0'; ++size) {
                 if (format[size] == '%') {
                     if (second != none)
-                        two_conversions_at_the_most();
+                        more_than_two_conversions();
                     (first == none ? first : second) = size;
                 }
                 if (format[size] == '$') {
                     if (mark != none)
-                        one_placeholder_at_the_most();
+                        more_than_one_placeholder();
                     mark = size;
                 }
                 if (size == none - 1)
                     too_long();
             }
         }
-        /// Not constant: a template that breaks the rule does not compile.
-        static void two_conversions_at_the_most() {}
-        static void one_placeholder_at_the_most() {}
+        /// Not constexpr: a template that breaks the rule does not compile.
+        static void more_than_two_conversions() {}
+        static void more_than_one_placeholder() {}
         static void too_long() {}
         static constexpr std::uint8_t none = 0xFF;
-        std::uint8_t first = none; ///< where the first conversion stands, ...
+        std::uint8_t first = none; ///< position of the first conversion
         std::uint8_t second = none;
-        std::uint8_t mark = none; ///< where the placeholder stands
+        std::uint8_t mark = none; ///< position of the placeholder
         std::uint8_t size = 0;
     };
     const char* format;
@@ -186,7 +186,7 @@ constexpr Row<R> on_off(Member<R, T> field, const char* on, const char* off)
     return rows::row(field, RowData::Kind::flag, on, off);
 }
 
-/// The same for the bits of `mask` alone: the others neither decide nor count as a change.
+/// The same for the bits of `mask` alone: other bits are ignored.
 template <class R, class T>
 constexpr Row<R> bit(Member<R, T> field, std::uint8_t mask, const char* on, const char* off)
 {
@@ -280,7 +280,7 @@ constexpr Row<R> text(Member<R, T> field, const char* format)
     return rows::content(field, format, Value::Notation::text);
 }
 
-/// The same for a format in which the marker of the GPON port is renamed.
+/// The same for a format, in which the marker of the GPON port is renamed.
 template <class R, std::size_t N>
 constexpr Row<R> channel_format(Member<R, char[N]> field, const char* format)
 {
@@ -289,8 +289,8 @@ constexpr Row<R> channel_format(Member<R, char[N]> field, const char* format)
     return row;
 }
 
-/// An ONT password: at most 10 characters of it are shown. How many of its bytes count as a change differs: those that
-/// are shown in an ONT, all in a template.
+/// An ONT password: at most 10 characters of it are shown. A change is looked for in as many bytes as are compared:
+/// those shown for an ONT, all of them for a template.
 template <class R, class T>
 constexpr Row<R> ont_password(Member<R, T> field, const char* format, std::uint16_t compared = sizeof(T))
 {
@@ -317,7 +317,7 @@ constexpr Row<R> word(Member<R, T> field, const char* (*vocabulary)(int), const 
     return rows::row(field, RowData::Kind::word, format, vocabulary);
 }
 
-/// A profile or template that the field refers to, by its name; nothing is emitted while the slot holds none.
+/// The name of the profile or template that the field refers to; nothing is emitted when the slot is empty.
 template <class R, class T>
 constexpr Row<R> reference(Member<R, T> field, const char* (*lookup)(int), const char* format)
 {
@@ -325,7 +325,7 @@ constexpr Row<R> reference(Member<R, T> field, const char* (*lookup)(int), const
     return rows::row(field, RowData::Kind::reference, format, lookup);
 }
 
-/// The same row for element `index` of the array whose first element it names.
+/// The same row for element `index` of the array whose first element the row is for.
 template <class Record>
 constexpr Row<Record> element(Row<Record> row, std::size_t index)
 {
@@ -361,7 +361,7 @@ void descend(Rule rule, Result (*diff)(Part*, Part*, int*, List<char>&), Part& l
         diff(&lhs, &rhs, key, out);
 }
 
-/// The same for each element of an array in turn: its index goes into the key's slot first, wanted or not.
+/// The same for each element of an array. Its index is stored in the key's slot, whether the element is wanted or not.
 template <class Result, class Element, std::size_t N>
 void descend_each(Rule rule, Result (*diff)(Element*, Element*, int*, List<char>&), Element (&lhs)[N],
                   Element (&rhs)[N], KeySlot slot, int* key, List<char>& out)

@@ -5,16 +5,16 @@
 
 namespace pondiff {
 
-Script* Script::under_way_;
+Script* Script::current_;
 
-Script::Script() : outer_(under_way_)
+Script::Script() : outer_(current_)
 {
-    under_way_ = this;
+    current_ = this;
 }
 
 Script::~Script()
 {
-    under_way_ = outer_;
+    current_ = outer_;
     std::free(text_);
 }
 
@@ -22,7 +22,7 @@ bool Script::grow(std::size_t more)
 {
     constexpr std::size_t least = 16384;
     constexpr std::size_t doubled_until = std::size_t{1} << 20;
-    // Small texts double; large ones grow by a third, so that little memory beyond the text is ever held.
+    // Small texts double; large ones grow by a third, so that little memory is allocated beyond the text.
     std::size_t wanted = capacity_ < doubled_until ? capacity_ * 2 : capacity_ + capacity_ / 3;
     if (wanted < least)
         wanted = least;

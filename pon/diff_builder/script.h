@@ -8,10 +8,10 @@
 
 namespace pondiff {
 
-/// The list that an operation of the library hands to its record diffs. Nobody ever looks at its elements, so it keeps
-/// none: `push`, the one place that knows the two kinds of lists apart, puts what is meant for it straight into the
-/// text that the operation returns, one line for each element that is neither empty nor begins with a line feed. The
-/// list of a caller who calls a record diff himself gets every element.
+/// The list that the library's own operations pass to record diffs. Its elements are never read, so it keeps none:
+/// `push`, the only function that distinguishes the two kinds of lists, writes them directly into the text that the
+/// operation returns, one line for each element that is not empty and does not begin with a line feed. A list of any
+/// other caller of a record diff gets every element.
 class Script : public List<char> {
   public:
     Script();
@@ -22,16 +22,16 @@ class Script : public List<char> {
     void append_line(const Text& line);
     bool empty() const { return size_ == 0; }
     bool failed() const { return failed_; }
-    /// Hands over the text, on the heap and with its terminator; null when part of it was lost.
+    /// Hands over the text, on the heap and with its terminator; null when an allocation failed.
     char* release();
 
-    /// The list as the script of the operation under way; null for every other list.
-    static Script* of(const List<char>& list) { return under_way_ == &list ? under_way_ : nullptr; }
+    /// The list as the script of the current operation; null for every other list.
+    static Script* of(const List<char>& list) { return current_ == &list ? current_ : nullptr; }
 
   private:
     bool grow(std::size_t more);
 
-    static Script* under_way_;
+    static Script* current_;
 
     Script* outer_;
     char* text_ = nullptr;
@@ -40,7 +40,7 @@ class Script : public List<char> {
     bool failed_ = false;
 };
 
-/// Appends a text as it is. @return false when memory for it could not be allocated
+/// Appends a text as it is. @return false when an allocation fails
 bool push(List<char>& out, const Text& text);
 
 } // namespace pondiff

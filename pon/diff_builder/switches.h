@@ -13,7 +13,7 @@ enum Rule : std::uint8_t {
     changed_only,              ///< never
 };
 
-/// Whether the switches `print_all` and `print_common` force what stands under the rule.
+/// Whether the switches `print_all` and `print_common` force commands under the rule.
 bool forced(Rule rule);
 
 } // namespace pondiff

@@ -6,7 +6,7 @@
 #include <cstdlib>
 #include <cstring>
 
-// The exported formatters: record diffs of other software call them, the library does not.
+// The exported formatters: record diffs in other software call them, the library itself does not.
 
 using pondiff::Text;
 using pondiff::Value;

@@ -418,7 +418,7 @@ TEST_F(Check, ErrorsAreReported)
 TEST_F(Check, AnyRecordIsLookedAt)
 {
     std::string record;
-    for (unsigned i = 0; record.size() < sizeof(GCfg); i++)
+    for (unsigned i = 0; record.size() < sizeof(GCfg); ++i)
         record += static_cast<char>((i * 2654435761U) >> 24);
     write("odd.bin", record);
     const Outcome outcome = run({"check", "odd.bin"});

@@ -105,7 +105,7 @@ TEST_F(Show, AnyRecordComesBackFromItsDocument)
 {
     // Every byte differs from its neighbours, so that texts are unterminated and numbers out of the usual.
     std::string record;
-    for (unsigned i = 0; record.size() < sizeof(GCfg); i++)
+    for (unsigned i = 0; record.size() < sizeof(GCfg); ++i)
         record += static_cast<char>((i * 2654435761U) >> 24);
     write("odd.bin", record);
     ASSERT_EQ(run({"show", "odd.bin", "-o", "odd.json"}).status, 0);

@@ -137,7 +137,7 @@ class Injection : public testing::Test {
     Injection()
     {
         for_each_leaf(gcfg_record, [this](const Leaf& leaf) {
-            for (std::size_t i = 0; is_text(leaf.field) && i < leaf.field.width; i++)
+            for (std::size_t i = 0; is_text(leaf.field) && i < leaf.field.width; ++i)
                 bytes(*equal)[leaf.offset + i] =
                     i % 2 == 0 ? 'y' : 'z'; // without an end, so that reading on would show
         });
@@ -244,7 +244,7 @@ void Injection::prepare(const TextField& field, Change change, Place place)
     ASSERT_EQ(initiate_diff(orig.get(), cfg.get(), 0, 0), 0);
     marks = marks_in_session();
     for (GCfg* const configuration : patched)
-        for (std::size_t i = 0; i < field.width; i++)
+        for (std::size_t i = 0; i < field.width; ++i)
             if (value[i] == mark)
                 marks.push_back(bytes(*configuration) + field.offset + i);
 }
@@ -281,7 +281,7 @@ void Injection::inject(const TextField& field, Change change, Place place)
             << "what stands behind the array is read: " << marked;
         at = behind;
     }
-    for (int byte = 1; byte < 256; byte++) {
+    for (int byte = 1; byte < 256; ++byte) {
         const auto character = static_cast<char>(byte);
         put(character);
         const std::string text = show();

@@ -4,7 +4,7 @@ using namespace pondiff;
 
 namespace {
 
-/// A relay profile of one VLAN. Whether the entry exists is not looked at: one whose slot holds no profile has no
+/// The relay profile of one VLAN. The entry's `exist` is not read; an entry that refers to an empty slot has no
 /// command.
 template <class Redefinition>
 void emit_redefinition(const Redefinition& lhs, const Redefinition& rhs, const char* profile, const char* format,
@@ -50,13 +50,13 @@ bool getdiff_GPonOltGeneralCfg(GPonOltGeneralCfg* lhs, GPonOltGeneralCfg* rhs, i
         on_off(FIELD(GPonOltGeneralCfg, alarm_ont_battery_power_enabled), "", "alarm ont-battery-power status disable"),
         on_off(FIELD(GPonOltGeneralCfg, alarm_ont_battery_low_enabled), "", "alarm ont-battery-low status disable"),
     };
-    if (nothing_to_say(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs))
         return false;
     const Where where{View::configure, key, out};
     emit_changed(limits, changed_or_common, lhs, rhs, where);
     emit_changed(relay_profiles, changed_or_profile_common, lhs, rhs, where);
     emit_changed(thresholds, changed_or_common, lhs, rhs, where);
-    // Another allocation mode is not a change of its own.
+    // A change of the allocation mode alone emits nothing.
     if (forced(changed_or_common) || lhs->dba_reduced_latency != rhs->dba_reduced_latency)
         emit(where, reduced_latency_command(*rhs));
     emit_changed(battery_alarms, changed_or_common, lhs, rhs, where);
@@ -75,7 +75,7 @@ bool getdiff_GPonOltGeneralCfg(GPonOltGeneralCfg* lhs, GPonOltGeneralCfg* rhs, i
     return false;
 }
 
-/// The password check has no command; what drives "password-in-trap" is the alternative activation mode.
+/// The password check has no command; "password-in-trap" shows the alternative activation mode.
 bool getdiff_GPonOltGeneralActivationCfg(GPonOltGeneralActivationCfg* lhs, GPonOltGeneralActivationCfg* rhs, int* key,
                                          List<char>& out)
 {
@@ -92,7 +92,7 @@ bool getdiff_GPonOltGeneralActivationCfg(GPonOltGeneralActivationCfg* lhs, GPonO
         on_off(FIELD(GPonOltGeneralActivationCfg, alt_activation_mode), "gpon olt password-in-trap",
                "no gpon olt password-in-trap"),
     };
-    if (nothing_to_say(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs))
         return false;
     emit_changed(commands, changed_or_common, lhs, rhs, {View::configure, key, out});
     return false;
@@ -105,10 +105,10 @@ bool getdiff_GPonOltGeneralRedundancyCfg(GPonOltGeneralRedundancyCfg* /*lhs*/, G
     return false;
 }
 
-/// Has no commands, and neither have its parts; what goes through them leaves its last index in the key.
+/// Neither it nor its parts have commands, but walking them leaves the last index in the key.
 bool getdiff_GPonOltGeneralL3Cfg(GPonOltGeneralL3Cfg* lhs, GPonOltGeneralL3Cfg* rhs, int* key, List<char>& out)
 {
-    if (nothing_to_say(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs))
         return false;
     descend_each(changed_or_all, getdiff_GPonOltGeneralL3DHCPCfg, lhs->dhcp, rhs->dhcp, of_object, key, out);
     descend(changed_or_all, getdiff_GPonOltGeneralL3PPPoECfg, lhs->pppoe, rhs->pppoe, key, out);
@@ -129,7 +129,7 @@ bool getdiff_GPonOltGeneralL3PPPoECfg(GPonOltGeneralL3PPPoECfg* /*lhs*/, GPonOlt
 
 bool getdiff_GPonOltDhcpraCfgByVid(GPonOltDhcpraCfgByVid* lhs, GPonOltDhcpraCfgByVid* rhs, int* key, List<char>& out)
 {
-    if (nothing_to_say(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs))
         return false;
     emit_redefinition(*lhs, *rhs, getDhcpRaName(rhs->profile), "gpon olt profile dhcpra %s vid %d",
                       {View::configure, key, out});
@@ -139,7 +139,7 @@ bool getdiff_GPonOltDhcpraCfgByVid(GPonOltDhcpraCfgByVid* lhs, GPonOltDhcpraCfgB
 bool getdiff_GPonOltDhcpv6raCfgByVid(GPonOltDhcpv6raCfgByVid* lhs, GPonOltDhcpv6raCfgByVid* rhs, int* key,
                                      List<char>& out)
 {
-    if (nothing_to_say(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs))
         return false;
     emit_redefinition(*lhs, *rhs, getDhcpv6RaName(rhs->profile), "gpon olt profile dhcpv6ra %s vid %d",
                       {View::configure, key, out});
@@ -150,7 +150,7 @@ bool getdiff_GPonOltDhcpv6raCfgByVid(GPonOltDhcpv6raCfgByVid* lhs, GPonOltDhcpv6
 bool getdiff_GPonOltGeneralDBAShortCycleCfg(GPonOltGeneralDBAShortCycle* lhs, GPonOltGeneralDBAShortCycle* rhs,
                                             int* key, List<char>& out)
 {
-    if (nothing_to_say(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs))
         return false;
     const Where where{View::configure, key, out};
     for (int port = 0; port < GCFG_GPON_PORTS; port += 2) {
@@ -172,7 +172,7 @@ bool getdiff_GPonOltGeneralDatapathCfg(GPonOltGeneralDatapathCfg* lhs, GPonOltGe
         number(FIELD(GPonOltGeneralDatapathCfg, broadcast_gem_port), "gpon olt broadcast-gem-port \"%s\""),
         number(FIELD(GPonOltGeneralDatapathCfg, multicast_gem_port), "gpon olt multicast-gem-port \"%s\""),
     };
-    if (nothing_to_say(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs))
         return false;
     const Where where{View::configure, key, out};
     if (forced(changed_or_common) || lhs->model != rhs->model)
@@ -187,7 +187,7 @@ bool getdiff_GPonOntEncryption(GPonOntEncryption* lhs, GPonOntEncryption* rhs, i
         on_off(FIELD(GPonOntEncryption, enable), "gpon olt encryption", "no gpon olt encryption"),
         number(FIELD(GPonOntEncryption, key_update_interval), "gpon olt encryption key-update \"%s\""),
     };
-    if (nothing_to_say(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs))
         return false;
     emit_changed(commands, changed_or_common, lhs, rhs, {View::configure, key, out});
     return false;

@@ -3,7 +3,7 @@
 using namespace pondiff;
 
 /// The polarity of signal detect and the width of the RSSI trigger pulse have no commands. The laser reset and the two
-/// holds have one command each, whatever their value.
+/// hold settings have one command each, whatever their value.
 bool getdiff_GPonOltGeneralOpticsCfg(GPonOltGeneralOpticsCfg* lhs, GPonOltGeneralOpticsCfg* rhs, int* key,
                                      List<char>& out)
 {
@@ -59,7 +59,7 @@ bool getdiff_GPonOltGeneralOpticsCfg(GPonOltGeneralOpticsCfg* lhs, GPonOltGenera
         number(FIELD(Optics, preamble_delimiter_byte3), "optics preamble delimiter byte3 \"%s\""),
         enumeration(FIELD(Optics, voltage_if_mode), "GOpticsVoltageInterface_enum", "optics voltage-if-mode \"%s\""),
     };
-    if (nothing_to_say(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs))
         return false;
     emit_changed(commands, changed_or_all, lhs, rhs, {View::gpon_port, key, out});
     return false;

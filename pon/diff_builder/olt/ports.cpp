@@ -4,15 +4,14 @@ using namespace pondiff;
 
 bool getdiff_GPonOltCfg(GPonOltCfg* lhs, GPonOltCfg* rhs, int* key, List<char>& out)
 {
-    if (nothing_to_say(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs))
         return false;
     descend(changed_or_all, getdiff_GPonOltGeneralCfg, lhs->general, rhs->general, key, out);
     descend_each(changed_or_all, getdiff_GPonOltChannelCfg, lhs->channel, rhs->channel, of_object, key, out);
     return false;
 }
 
-/// Most settings can only be given, not taken back: their other state is an empty command. The limit of ONTs has no
-/// command.
+/// Most settings can only be switched on: switched off they are an empty command. The limit of ONTs has no command.
 bool getdiff_GPonOltChannelCfg(GPonOltChannelCfg* lhs, GPonOltChannelCfg* rhs, int* key, List<char>& out)
 {
     static constexpr Row<GPonOltChannelCfg> settings[] = {
@@ -34,7 +33,7 @@ bool getdiff_GPonOltChannelCfg(GPonOltChannelCfg* lhs, GPonOltChannelCfg* rhs, i
     static constexpr Row<GPonOltChannelCfg> forward_nowhere =
         whenever(FIELD(GPonOltChannelCfg, unknown_multicast_forward_gem_port), "");
 
-    if (nothing_to_say(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs))
         return false;
     const Where where{View::gpon_port, key, out};
     emit_changed(settings, changed_or_all, lhs, rhs, where);

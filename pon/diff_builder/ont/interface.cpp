@@ -4,7 +4,7 @@ using namespace pondiff;
 
 namespace {
 
-/// The profiles of one service after another.
+/// The profiles of each service in turn.
 void emit_service_profiles(const GPonOntCfg* lhs, const GPonOntCfg* rhs, int* key, List<char>& out)
 {
     static constexpr Row<GPonOntCfg> profiles[] = {
@@ -30,7 +30,7 @@ void diff_services(GPonOntCfg& lhs, GPonOntCfg& rhs, int* key, List<char>& out)
     }
 }
 
-/// The settings of an ONT that the new configuration has.
+/// The settings of an ONT that exists in the new configuration.
 void emit_settings(GPonOntCfg* lhs, GPonOntCfg* rhs, int* key, List<char>& out)
 {
     static constexpr Row<GPonOntCfg> terminal[] = {
@@ -82,7 +82,7 @@ const char* power_priority_word(int value)
 /// The authentication method and the profile in the management system have no commands.
 bool getdiff_GPonOntCfg(GPonOntCfg* lhs, GPonOntCfg* rhs, int* key, List<char>& out)
 {
-    if (nothing_to_say(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs))
         return false;
     if (lhs->exist != rhs->exist) {
         if (rhs->exist == 0) {
@@ -107,7 +107,7 @@ unsigned char getdiff_GPonOntCustomCrossConnect(GPonOntCustomCrossConnect* lhs, 
         number_or_unused(FIELD(GPonOntCustomCrossConnect, svid), "service $ID1 custom svid \"%s\""),
         number_or_unused(FIELD(GPonOntCustomCrossConnect, cos), "service $ID1 custom cos \"%s\""),
     };
-    if (nothing_to_say(lhs, rhs) || rhs->exist == 0)
+    if (nothing_to_emit(lhs, rhs) || rhs->exist == 0)
         return 0;
     emit_changed(commands, changed_or_all, lhs, rhs, {View::ont, key, out});
     return 0;
@@ -117,7 +117,7 @@ bool getdiff_GPonOntPort(GPonOntPort* lhs, GPonOntPort* rhs, int* key, List<char
 {
     static constexpr Row<GPonOntPort> shutdown =
         on_off(FIELD(GPonOntPort, shutdown), "port $ID1 shutdown", "no port $ID1 shutdown");
-    if (nothing_to_say(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs))
         return false;
     emit_changed(shutdown, changed_or_all, lhs, rhs, {View::ont, key, out});
     descend(changed_or_all, getdiff_GPonUniPoE, lhs->poe, rhs->poe, key, out);
@@ -131,7 +131,7 @@ bool getdiff_GPonUniPoE(GPonUniPoE* lhs, GPonUniPoE* rhs, int* key, List<char>& 
         number(FIELD(GPonUniPoE, pse_class_control), "port $ID1 poe pse-class-control \"%d\""),
         word(FIELD(GPonUniPoE, power_priority), power_priority_word, "port $ID1 poe power-priority \"%s\""),
     };
-    if (nothing_to_say(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs))
         return false;
     emit_changed(commands, changed_or_all, lhs, rhs, {View::ont, key, out});
     return false;

@@ -6,9 +6,9 @@ namespace {
 
 constexpr int end_mark = -1;
 
-/// Sorts the list in place, ascending, one pass after another until the place that a pass is counted for holds an end
-/// mark. A mark never moves to the front: what stands before it and what stands behind are sorted apart, only values
-/// below it pass it. The elements are packed: they are reached by value alone.
+/// Sorts the list in place, ascending, in passes; pass i ends the sort when element i is an end mark. An end mark never
+/// moves to the front: the parts before and after it are sorted separately, and only smaller values move past it. The
+/// elements are packed, so they are read and written by value.
 void sort_vids(GPonOntSelectiveTunnel& tunnel)
 {
     constexpr int last = GCFG_TUNNEL_VIDS - 1;
@@ -46,7 +46,7 @@ void append_ranges(const GPonOntSelectiveTunnel& tunnel, Text& list)
 
 } // namespace
 
-/// Does not compare: the whole list is given anew, whatever the old one was.
+/// Does not compare: the whole list is emitted each time.
 bool getdiff_GPonOntSelectiveTunnel(GPonOntSelectiveTunnel* /*lhs*/, GPonOntSelectiveTunnel* rhs, int* key,
                                     List<char>& out)
 {

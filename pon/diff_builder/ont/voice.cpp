@@ -25,7 +25,7 @@ void diff_port(const Port& lhs, const Port& rhs, int port, const Where& ont)
     const Value shown = port;
     const Where where{ont.view, ont.key, ont.out, &shown};
     emit_changed(identity, changed_or_all, &lhs, &rhs, where);
-    // The realm counts as changed when it differs from the old password, whatever it was before.
+    // The new realm is compared with the old password, not with the old realm.
     if (wanted(changed_or_all, lhs.auth_passwd, rhs.auth_realm))
         emit(where, "voice port %d authentication realm \"%s\"", text_of(rhs.auth_realm));
     emit_changed(validation_and_line, changed_or_all, &lhs, &rhs, where);
@@ -83,7 +83,7 @@ bool getdiff_GPonOntVoice(GPonOntVoiceCfg* lhs, GPonOntVoiceCfg* rhs, int* key, 
         on_off(FIELD(Voip, tone_events), "voice rtp tone enable", "no voice rtp tone"),
         on_off(FIELD(Voip, dtmf_events), "voice rtp dtmf enable", "no voice rtp dtmf"),
     };
-    if (nothing_to_say(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs))
         return false;
     const Where where{View::ont, key, out};
     emit_changed(host, changed_or_all, &lhs->voice_iphost, &rhs->voice_iphost, where);

@@ -10,7 +10,7 @@ bool getdiff_GAddressTableConfig(GAddressTableConfig* lhs, GAddressTableConfig* 
         on_off(FIELD(GAddressTableConfig, discard_pid_unlearned_sa), "discard-pid-unlearned-sa",
                "no discard-pid-unlearned-sa"),
     };
-    if (nothing_to_say(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs))
         return false;
     emit_changed(commands, changed_or_all, lhs, rhs, {View::address_table, key, out});
     return false;
@@ -29,11 +29,11 @@ bool getdiff_GSvlanAddressTableConfig(GSvlanAddressTableConfig* lhs, GSvlanAddre
         on_off(FIELD(GSvlanAddressTableConfig, discard_unknown), "s-vlan %d discard-unknown",
                "no s-vlan %d discard-unknown"),
     };
-    if (nothing_to_say(lhs, rhs) || (lhs->svlan == 0 && rhs->svlan == 0))
+    if (nothing_to_emit(lhs, rhs) || (lhs->svlan == 0 && rhs->svlan == 0))
         return false;
     const Value svlan = rhs->svlan;
     const Where where{View::address_table, key, out, &svlan};
-    // The command of any setting names the S-VLAN too; by itself it is named only where no setting has changed.
+    // The commands of the settings declare the S-VLAN, too; a command of its own is needed only where none has changed.
     GSvlanAddressTableConfig old_settings = *lhs;
     old_settings.exist = rhs->exist;
     old_settings.svlan = rhs->svlan;
@@ -44,7 +44,7 @@ bool getdiff_GSvlanAddressTableConfig(GSvlanAddressTableConfig* lhs, GSvlanAddre
     return false;
 }
 
-/// The name is forced: a full dump repeats it.
+/// The name is forced: a full dump shows it.
 bool getdiff_GPonProfileOltAddressTable(GPonProfileOltAddressTable* lhs, GPonProfileOltAddressTable* rhs, int* key,
                                         List<char>& out)
 {

@@ -2,7 +2,7 @@
 
 using namespace pondiff;
 
-/// A profile that is removed shows its changed fields alone: there is no command that deletes it.
+/// No command deletes a profile: for a removed one, only its changed fields are emitted.
 bool getdiff_GPonProfileOltDhcpRa(GPonProfileOltDhcpRa* lhs, GPonProfileOltDhcpRa* rhs, int* key, List<char>& out)
 {
     static constexpr Row<GPonProfileOltDhcpRa> agent = //

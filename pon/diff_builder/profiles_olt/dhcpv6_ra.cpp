@@ -4,7 +4,7 @@ using namespace pondiff;
 
 namespace {
 
-/// One command stands for both options: it is wanted where both have changed, and the interface-id decides its form.
+/// One command shows both options. It is emitted when both have changed; the interface-id decides its form.
 void emit_suboptions(const GPonProfileOltDhcpv6Ra* lhs, const GPonProfileOltDhcpv6Ra* rhs, const Where& where)
 {
     const bool both_changed = lhs->write_interface_id_option != rhs->write_interface_id_option &&
@@ -15,7 +15,7 @@ void emit_suboptions(const GPonProfileOltDhcpv6Ra* lhs, const GPonProfileOltDhcp
 
 } // namespace
 
-/// A profile that is removed shows its changed fields alone: there is no command that deletes it.
+/// No command deletes a profile: for a removed one, only its changed fields are emitted.
 bool getdiff_GPonProfileOltDhcpv6Ra(GPonProfileOltDhcpv6Ra* lhs, GPonProfileOltDhcpv6Ra* rhs, int* key, List<char>& out)
 {
     static constexpr Row<GPonProfileOltDhcpv6Ra> agent = //

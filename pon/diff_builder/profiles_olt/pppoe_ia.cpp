@@ -24,7 +24,7 @@ void emit_session_limits(const GPonProfileOltPppoeIa* lhs, const GPonProfileOltP
 
 } // namespace
 
-/// A profile that is removed shows its changed fields alone: there is no command that deletes it.
+/// No command deletes a profile: for a removed one, only its changed fields are emitted.
 bool getdiff_GPonProfileOltPppoeIa(GPonProfileOltPppoeIa* lhs, GPonProfileOltPppoeIa* rhs, int* key, List<char>& out)
 {
     static constexpr Row<GPonProfileOltPppoeIa> agent[] = {

@@ -10,14 +10,14 @@ bool getdiff_GVlanGeneralCfg(GVlanGeneralCfg* lhs, GVlanGeneralCfg* rhs, int* ke
         hexadecimal(FIELD(GVlanGeneralCfg, insertion_svlan_ethertype), 4, "%s insertion svlan-ethertype \"%s\""),
         hexadecimal(FIELD(GVlanGeneralCfg, insertion_cvlan_ethertype), 4, "%s insertion cvlan-ethertype \"%s\""),
     };
-    if (nothing_to_say(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs))
         return false;
     const Value direction = key[of_element] != 0 ? "downlink" : "uplink";
     emit_changed(commands, changed_or_all, lhs, rhs, {View::vlan, key, out, &direction});
     return false;
 }
 
-/// The name is never forced: a full dump does not repeat it.
+/// The name is never forced: a full dump leaves it out.
 bool getdiff_GPonProfileOltVlan(GPonProfileOltVlan* lhs, GPonProfileOltVlan* rhs, int* key, List<char>& out)
 {
     if (no_profile(lhs, rhs))

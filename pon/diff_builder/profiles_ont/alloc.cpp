@@ -18,7 +18,7 @@ bool getdiff_GPonProfileOntAlloc(GPonProfileOntAlloc* lhs, GPonProfileOntAlloc* 
 
 bool getdiff_GPonOntDba(GPonOntDba* lhs, GPonOntDba* rhs, int* key, List<char>& out)
 {
-    if (nothing_to_say(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs))
         return false;
     char name[] = "sla_data";
     return getdiff_GZorvanSLA(name, &lhs->sla_data, &rhs->sla_data, key, out);
@@ -35,7 +35,7 @@ bool getdiff_GZorvanSLA(char* /*name*/, GZorvanSLA* lhs, GZorvanSLA* rhs, int* k
         number(FIELD(GZorvanSLA, guaranteed_bandwidth), "bandwidth guaranteed \"%s\""),
         number(FIELD(GZorvanSLA, besteffort_bandwidth), "bandwidth besteffort \"%s\""),
     };
-    if (nothing_to_say(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs))
         return false;
     emit_changed(commands, changed_or_all, lhs, rhs, {View::alloc, key, out});
     return false;

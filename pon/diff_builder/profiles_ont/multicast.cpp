@@ -4,7 +4,7 @@ using namespace pondiff;
 
 namespace {
 
-/// What is a protocol's own: the word that leads its commands, and the fields that the protocols name differently.
+/// What differs between the protocols: the first word of their commands, and fields with other names.
 template <class Settings>
 struct Protocol;
 
@@ -52,7 +52,7 @@ Value group(const std::uint8_t (&address)[16])
     return ipv6_of(address);
 }
 
-/// The VLAN and the groups of one entry. A dump writes what has not changed in its "no" form.
+/// The VLAN and the groups of one entry. A full dump writes what is equal in the "no" form.
 template <class Entry>
 void emit_range(const Entry* lhs, const Entry* rhs, const Where& where)
 {
@@ -75,7 +75,7 @@ void emit_range(const Entry* lhs, const Entry* rhs, const Where& where)
 
 bool getdiff_GPonIgmpSettings(GPonIgmpSettings* lhs, GPonIgmpSettings* rhs, int* key, List<char>& out)
 {
-    if (nothing_to_say(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs))
         return false;
     emit_settings(lhs, rhs, key, out);
     descend_each(changed_or_all, getdiff_GPonMulticastDynamicEntry, lhs->multicast_dynamic_entry,
@@ -85,7 +85,7 @@ bool getdiff_GPonIgmpSettings(GPonIgmpSettings* lhs, GPonIgmpSettings* rhs, int*
 
 bool getdiff_GPonMldSettings(GPonMldSettings* lhs, GPonMldSettings* rhs, int* key, List<char>& out)
 {
-    if (nothing_to_say(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs))
         return false;
     emit_settings(lhs, rhs, key, out);
     descend_each(changed_or_all, getdiff_GPonMulticastDynamicEntryV6, lhs->multicast_dynamic_entry_mld,
@@ -96,7 +96,7 @@ bool getdiff_GPonMldSettings(GPonMldSettings* lhs, GPonMldSettings* rhs, int* ke
 bool getdiff_GPonMulticastDynamicEntry(GPonMulticastDynamicEntry* lhs, GPonMulticastDynamicEntry* rhs, int* key,
                                        List<char>& out)
 {
-    if (nothing_to_say(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs))
         return false;
     const Value protocol = Protocol<GPonIgmpSettings>::word;
     emit_range(lhs, rhs, {View::ports, key, out, &protocol});
@@ -116,7 +116,7 @@ bool getdiff_GPonMulticastDynamicEntryV6(GPonMulticastDynamicEntryV6* lhs, GPonM
         number(FIELD(GPonMulticastDynamicEntryV6, preview_reset_time),
                "%s multicast dynamic-entry $ID1 preview-reset-time \"%s\""),
     };
-    if (nothing_to_say(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs))
         return false;
     const Value protocol = Protocol<GPonMldSettings>::word;
     const Where where{View::ports, key, out, &protocol};

@@ -12,7 +12,7 @@ bool emit_uni_shaping(const char* direction, const GPonUniShaping* lhs, const GP
         number(FIELD(GPonUniShaping, commited_rate), "port $ID1 shaper %s commited-rate \"%s\""),
         number(FIELD(GPonUniShaping, peak_rate), "port $ID1 shaper %s peak-rate \"%s\""),
     };
-    if (nothing_to_say(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs))
         return false;
     const Value lead = direction;
     emit_changed(commands, changed_or_all, lhs, rhs, {View::ports, key, out, &lead});
@@ -49,7 +49,7 @@ bool getdiff_GPonUniPort(GPonUniPort* lhs, GPonUniPort* rhs, int* key, List<char
         on_off(FIELD(GPonUniPort, remove_tag), "port $ID1 remove-tag", "no port $ID1 remove-tag"),
         on_off(FIELD(GPonUniPort, multicast_enable), "port $ID1 multicast", "no port $ID1 multicast"),
     };
-    if (nothing_to_say(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs))
         return false;
     emit_changed(commands, changed_or_all, lhs, rhs, {View::ports, key, out});
     getdiff_GPonMulticastClientPortSettings("port[$ID1]", &lhs->multicast_port_settings, &rhs->multicast_port_settings,
@@ -63,7 +63,7 @@ bool getdiff_GPonVeipPort(GPonVeipPort* lhs, GPonVeipPort* rhs, int* key, List<c
 {
     static constexpr Row<GPonVeipPort> multicast =
         on_off(FIELD(GPonVeipPort, multicast_enable), "veip multicast", "no veip multicast");
-    if (nothing_to_say(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs))
         return false;
     emit_changed(multicast, changed_or_all, lhs, rhs, {View::ports, key, out});
     getdiff_GPonMulticastClientPortSettings("veip", &lhs->multicast_port_settings, &rhs->multicast_port_settings, key,
@@ -96,7 +96,7 @@ bool getdiff_GPonMulticastClientPortSettings(const char* prefix, GPonMulticastCl
         number(FIELD(Settings, max_groups), "%s max groups \"%s\""),
         number(FIELD(Settings, max_multicast_bandwidth), "%s max bandwidth \"%s\""),
     };
-    if (nothing_to_say(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs))
         return false;
     const bool is_uni = prefix && std::strcmp(prefix, "port[$ID1]") == 0;
     const Value lead = is_uni ? "port $ID1 igmp" : prefix;

@@ -13,7 +13,7 @@ void diff_shapers(const char* traffic_class, GPonOntShapingUpstreamParams (&lhs)
     }
 }
 
-/// What storm control does about one kind of traffic.
+/// The storm control of one kind of traffic.
 struct Storm {
     u32 threshold;
     GBool_t logging;
@@ -22,7 +22,7 @@ struct Storm {
 
 enum StormStatus : unsigned char { storm_done = 0, storm_navigation_lost = 1, storm_command_lost = 3 };
 
-/// One command for all: the rate limit when it has changed, the actions that are on in any case.
+/// One command for all settings: the rate limit only when it has changed, and all actions that are on.
 StormStatus emit_storm(const char* traffic, const Storm& before, const Storm& after, const Where& where)
 {
     const bool new_limit = before.threshold != after.threshold;
@@ -55,7 +55,7 @@ bool getdiff_GPonOntShapingDownstream(GPonOntShapingDownstream* lhs, GPonOntShap
 {
     static constexpr Row<GPonOntShapingDownstream> one_policer =
         on_off(FIELD(GPonOntShapingDownstream, one_policer), "downstream one-policer", "no downstream one-policer");
-    if (nothing_to_say(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs))
         return false;
     emit_changed(one_policer, changed_or_all, lhs, rhs, {View::shaping, key, out});
     descend_each(changed_or_all, getdiff_GPonOntShapingDownstreamParams, lhs->policer, rhs->policer, of_element, key,
@@ -71,7 +71,7 @@ bool getdiff_GPonOntShapingDownstreamParams(GPonOntShapingDownstreamParams* lhs,
                "no downstream policer $ID1 enable"),
         number(FIELD(GPonOntShapingDownstreamParams, peak_rate), "downstream policer $ID1 peak-rate \"%s\""),
     };
-    if (nothing_to_say(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs))
         return false;
     emit_changed(commands, changed_or_all, lhs, rhs, {View::shaping, key, out});
     return false;
@@ -79,7 +79,7 @@ bool getdiff_GPonOntShapingDownstreamParams(GPonOntShapingDownstreamParams* lhs,
 
 bool getdiff_GPonOntShapingUpstream(GPonOntShapingUpstream* lhs, GPonOntShapingUpstream* rhs, int* key, List<char>& out)
 {
-    if (nothing_to_say(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs))
         return false;
     diff_shapers("", lhs->shaper, rhs->shaper, key, out);
     diff_shapers("unicast", lhs->shaper_unicast, rhs->shaper_unicast, key, out);
@@ -89,7 +89,7 @@ bool getdiff_GPonOntShapingUpstream(GPonOntShapingUpstream* lhs, GPonOntShapingU
     return false;
 }
 
-/// A dump shows what has changed and no more; for the class without a word two blanks stand behind "upstream".
+/// A full dump, too, shows only what differs. For the class without a word there are two blanks after "upstream".
 bool getdiff_GPonOntShapingUpstreamParams(const char* traffic_class, GPonOntShapingUpstreamParams* lhs,
                                           GPonOntShapingUpstreamParams* rhs, int* key, List<char>& out)
 {
@@ -98,18 +98,18 @@ bool getdiff_GPonOntShapingUpstreamParams(const char* traffic_class, GPonOntShap
         number_as_signed(FIELD(GPonOntShapingUpstreamParams, commited_rate), "upstream %s $ID1 commited-rate %d"),
         number_as_signed(FIELD(GPonOntShapingUpstreamParams, peak_rate), "upstream %s $ID1 peak-rate %d"),
     };
-    if (nothing_to_say(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs))
         return false;
     const Value lead = traffic_class;
     emit_changed(commands, changed_only, lhs, rhs, {View::shaping, key, out, &lead});
     return false;
 }
 
-/// A dump shows what has changed and no more.
+/// A full dump, too, shows only what differs.
 unsigned char getdiff_GPonOntStormControl(GPonOntStormControl* lhs, GPonOntStormControl* rhs, int* key, List<char>& out)
 {
     constexpr unsigned char of_multicast = 10;
-    if (nothing_to_say(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs))
         return storm_done;
     const Where where{View::shaping, key, out};
 

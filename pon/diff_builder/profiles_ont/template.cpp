@@ -46,7 +46,7 @@ constexpr Row<Template> behind_services[] = {
     on_off(FIELD(Template, profile_ont_ports_is_active), "define profile ports", "undefine profile ports"),
     reference(FIELD(Template, profile_ont_voice), getVoiceName, "profile voice \"%s\""),
     on_off(FIELD(Template, profile_ont_voice_is_active), "define profile voice", "undefine profile voice"),
-    // Unlike the other references, shown with an empty name when its slot holds no profile.
+    // Unlike other references, it is emitted with an empty name when its slot is empty.
     word(FIELD(Template, profile_ont_management), getManagementName, "profile management \"%s\""),
     on_off(FIELD(Template, profile_ont_management_is_active), "define profile management",
            "undefine profile management"),
@@ -70,7 +70,7 @@ bool getdiff_GPonTemplateOnt(GPonTemplateOnt* lhs, GPonTemplateOnt* rhs, int* ke
                  where);
     emit_changed(before_services, changed_or_all, lhs, rhs, where);
 
-    // The services stay out of a full dump.
+    // A full dump leaves equal services out.
     for (int service = 0; service < GCFG_SERVICES; ++service) {
         const Value number = service;
         for (const Row<Template>& row : service_commands)

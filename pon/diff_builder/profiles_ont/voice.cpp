@@ -23,7 +23,7 @@ bool getdiff_GPonProfileOntVoiceSip(GPonProfileOntVoiceSip* lhs, GPonProfileOntV
         enumeration(FIELD(GPonProfileOntVoiceSip, proto), "GPonProfileOntVoiceSipProtocol_enum", "sip proto \"%s\""),
         number(FIELD(GPonProfileOntVoiceSip, expire_time), "sip register expire %d"),
     };
-    if (nothing_to_say(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs))
         return false;
     emit_changed(commands, changed_or_all, lhs, rhs, {View::voice, key, out});
     return false;

@@ -8,7 +8,7 @@ namespace pondiff {
 using AllowList = GSystemServiceAllow[GCFG_ALLOW_ENTRIES];
 
 /// The permitted source networks of a service.
-/// @param service  how its commands begin, such as "ip ssh"
+/// @param service  the beginning of its commands, such as "ip ssh"
 void diff_allow_list(const char* service, AllowList& lhs, AllowList& rhs, int* key, List<char>& out);
 
 } // namespace pondiff

@@ -4,21 +4,21 @@ using namespace pondiff;
 
 namespace {
 
-/// Steps of the device's temperature. No command uses them.
-[[maybe_unused]] constexpr int TEMPERATURE_LEVELS[8] = {30, 40, 45, 50, 55, 60, 65, 70};
+/// Temperature levels of the device. No command uses them.
+[[maybe_unused]] constexpr int temperature_levels[8] = {30, 40, 45, 50, 55, 60, 65, 70};
 
 } // namespace
 
 bool getdiff_GSystemAlarmCfg(GSystemAlarmCfg* lhs, GSystemAlarmCfg* rhs, int* key, List<char>& out)
 {
-    if (nothing_to_say(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs))
         return false;
     descend_each(changed_or_common, getdiff_GSystemAlarmTypeCfg, lhs->type, rhs->type, of_object, key, out);
     descend(changed_or_common, getdiff_GSystemAlarmSystemCfg, lhs->cfg, rhs->cfg, key, out);
     return false;
 }
 
-/// The slot's alarm type names it in the commands and has none itself.
+/// The alarm type names the slot in the commands; it has no command itself.
 bool getdiff_GSystemAlarmTypeCfg(GSystemAlarmTypeCfg* lhs, GSystemAlarmTypeCfg* rhs, int* key, List<char>& out)
 {
     static constexpr Row<GSystemAlarmTypeCfg> commands[] = {
@@ -27,14 +27,14 @@ bool getdiff_GSystemAlarmTypeCfg(GSystemAlarmTypeCfg* lhs, GSystemAlarmTypeCfg* 
         enumeration(FIELD(GSystemAlarmTypeCfg, send_on_out), "GBool_enum", "alarm $ID0 out %s"),
         number(FIELD(GSystemAlarmTypeCfg, ttl), "alarm $ID0 ttl \"%s\""),
     };
-    if (nothing_to_say(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs))
         return false;
     emit_changed(commands, changed_or_common, lhs, rhs, {View::configure, key, out});
     return false;
 }
 
-/// The load average and the temperatures are shown only when they have changed themselves, in a full dump too. The
-/// other load averages and the fan speeds have no commands.
+/// A full dump, too, shows the load average and the temperatures only where they differ. The other load averages and
+/// the fan speeds have no commands.
 bool getdiff_GSystemAlarmSystemCfg(GSystemAlarmSystemCfg* lhs, GSystemAlarmSystemCfg* rhs, int* key, List<char>& out)
 {
     static constexpr Row<GSystemAlarmSystemCfg> load_average =
@@ -43,7 +43,7 @@ bool getdiff_GSystemAlarmSystemCfg(GSystemAlarmSystemCfg* lhs, GSystemAlarmSyste
         number(FIELD(GSystemAlarmSystemCfg, free_ram), "alarm ram free-ram \"%s\""),
         number(FIELD(GSystemAlarmSystemCfg, free_space), "alarm free-space level \"%s\""),
     };
-    if (nothing_to_say(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs))
         return false;
     const Where where{View::configure, key, out};
     emit_changed(load_average, changed_only, lhs, rhs, where);

@@ -18,7 +18,7 @@ bool getdiff_GSystemSnmpCfg(GSystemSnmpCfg* lhs, GSystemSnmpCfg* rhs, int* key, 
         enumeration(FIELD(GSystemSnmpCfg, serialNum), "GOntSnDisplayFormatType_enum", "ip snmp ont-sn-format \"%s\""),
         engine_id(FIELD(GSystemSnmpCfg, engineID), "ip snmp engineID \"%s\""),
     };
-    if (nothing_to_say(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs))
         return false;
     emit_changed(commands, changed_or_all, lhs, rhs, {View::configure, key, out});
     diff_allow_list("ip snmp", lhs->allow, rhs->allow, key, out);
@@ -27,7 +27,7 @@ bool getdiff_GSystemSnmpCfg(GSystemSnmpCfg* lhs, GSystemSnmpCfg* rhs, int* key, 
     return false;
 }
 
-/// A new type is seen only together with a new address.
+/// A new type is emitted only together with a new address.
 bool getdiff_GSystemSnmpTrap(GSystemSnmpTrap* lhs, GSystemSnmpTrap* rhs, int* key, List<char>& out)
 {
     if (!lhs || !rhs || !wanted(changed_or_all, lhs->ipaddr, rhs->ipaddr))
@@ -44,7 +44,7 @@ bool getdiff_GSystemSnmpAlias(GSystemSnmpAlias* lhs, GSystemSnmpAlias* rhs, int*
         on_off(FIELD(GSystemSnmpAlias, upDownTrapEnable), "ip snmp alias name $ID0 up-down-trap",
                "no ip snmp alias name $ID0 up-down-trap"),
     };
-    if (nothing_to_say(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs))
         return false;
     emit_changed(commands, changed_or_all, lhs, rhs, {View::configure, key, out});
     return false;

@@ -5,7 +5,7 @@ using namespace pondiff;
 bool getdiff_GSystemUser(GSystemUser* lhs, GSystemUser* rhs, int* key, List<char>& out)
 {
     static constexpr Row<GSystemUser> privilege = number(FIELD(GSystemUser, priority), "user $ID0 privilege \"%s\"");
-    if (nothing_to_say(lhs, rhs) || (lhs->exist == 0 && rhs->exist == 0))
+    if (nothing_to_emit(lhs, rhs) || (lhs->exist == 0 && rhs->exist == 0))
         return false;
     if (rhs->exist == 0) {
         if (lhs->name[0] != '\0')
