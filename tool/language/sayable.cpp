@@ -6,17 +6,11 @@
 
 namespace pondiff::tool {
 
-namespace {
-
-/// Whether the commands of an array of numbers are those of its first element alone.
-bool concerns_first_alone(const Field& field)
+bool has_command_for_first(const Field& field)
 {
-    const bool one_each = field.array && field.record == nullptr && field.layout == Layout::plain &&
-                          field.syntax.kind == Syntax::Kind::says;
-    return one_each && std::string_view(field.syntax.set).find("<#") == std::string_view::npos;
+    return field.array && field.layout == Layout::plain && field.syntax.kind == Syntax::Kind::says &&
+           field.syntax.set != nullptr && std::string_view(field.syntax.set).find("<#") == std::string_view::npos;
 }
-
-} // namespace
 
 const char* why_no_command(const Path& path)
 {
@@ -25,7 +19,7 @@ const char* why_no_command(const Path& path)
         if (kind == Syntax::Kind::no_command || kind == Syntax::Kind::counter) {
             return step.field->syntax.reason;
         }
-        if (step.index != 0 && concerns_first_alone(*step.field)) {
+        if (step.index != 0 && has_command_for_first(*step.field)) {
             return "the first one alone has a command";
         }
     }

@@ -10,6 +10,9 @@
 
 namespace pondiff::tool {
 
+/// Whether a field is an array whose first element alone has a command.
+bool has_command_for_first(const Field& field);
+
 /// Why no command ever sets the leaf that a path leads to; null where there is one. A key and a flag of existence have
 /// one: what names or enters their element.
 const char* why_no_command(const Path& path);

@@ -2,10 +2,10 @@
 
 #include "tool/describe/records.h"
 #include "tool/language/objects.h"
+#include "tool/language/sayable.h"
 
 #include <cstring>
 #include <optional>
-#include <string_view>
 
 namespace pondiff::tool {
 
@@ -22,13 +22,6 @@ bool has_no_command(const Field& field)
 bool is_only_switched_off(const Field& field)
 {
     return field.syntax.kind == Kind::says && field.syntax.set == nullptr;
-}
-
-/// An array whose first element alone has a command.
-bool has_command_for_first(const Field& field)
-{
-    return field.array && field.layout == Layout::plain && field.syntax.kind == Kind::says &&
-           field.syntax.set != nullptr && std::string_view(field.syntax.set).find("<#") == std::string_view::npos;
 }
 
 /// The leaves of what is in use, but for those that mean nothing.
