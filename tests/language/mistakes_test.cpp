@@ -1,12 +1,8 @@
 /// Scripts with a mistake each: what is refused and why, and what is set in spite of it.
 
-#include "tests/language/configurations.h"
-#include "tool/account/meaning.h"
-#include "tool/language/objects.h"
+#include "tests/language/readings.h"
 
-#include <algorithm>
 #include <gtest/gtest.h>
-#include <vector>
 
 using namespace language_tests;
 
@@ -52,60 +48,9 @@ std::unique_ptr<GCfg> device()
     return configuration;
 }
 
-using Texts = std::vector<std::string>;
-
-Texts sorted(Texts texts)
-{
-    std::sort(texts.begin(), texts.end());
-    return texts;
-}
-
-/// Every field that means something else afterwards, with its new number or text.
-Texts changes(const GCfg& before, const GCfg& after)
-{
-    Texts texts;
-    for_each_different_meaning({&before, &after}, [&](const Beside<2>& beside) {
-        const Field& field = beside.field;
-        std::string value;
-        if (field.layout == Layout::ended_list) {
-            for (std::size_t i = 0; i < field.count && get_number(field, beside.at[1] + i * field.width) != -1; ++i) {
-                value += (i == 0 ? "" : ",") + std::to_string(get_number(field, beside.at[1] + i * field.width));
-            }
-        } else if (is_number(field.form)) {
-            value = std::to_string(get_number(field, beside.at[1]));
-        } else if (is_text(field)) {
-            value = text_in(field, beside.at[1]);
-        } else {
-            for (std::size_t i = 0; i < field.width; ++i) {
-                value += (i == 0 ? "" : ".") + std::to_string(beside.at[1][i]);
-            }
-        }
-        texts.push_back(beside.path.text() + ' ' + value);
-    });
-    return texts;
-}
-
-struct Reading {
-    Texts refused;   ///< "line: reason"
-    Texts ambiguous; ///< lines
-    Texts changed;
-};
-
 Reading read(const std::string& script)
 {
-    const auto before = device();
-    const auto after = device();
-    Reading reading;
-    read_script(script, *after, [&](const Line& line) {
-        if (line.kind == Line::Kind::refused) {
-            reading.refused.push_back(std::to_string(line.number) + ": " + line.reason);
-        }
-        if (line.ambiguous) {
-            reading.ambiguous.emplace_back(line.text);
-        }
-    });
-    reading.changed = sorted(changes(*before, *after));
-    return reading;
+    return reading_of(*device(), script);
 }
 
 const std::string in_configure = "configure terminal\n";
@@ -191,7 +136,7 @@ const Case cases[] = {
      {}},
     {"hexadecimal without 0x",
      in_configure + "gpon network svlan-ethertype 8100\n",
-     {"2: svlan_ethertype: expected a hexadecimal number from 0x0 to 0XFFFF"},
+     {"2: svlan_ethertype: expected a hexadecimal number from 0x0000 to 0xFFFF"},
      {}},
     {"address", in_configure + "management ip 10.0.0.256\n", {"2: ipaddr: expected an address such as 10.0.0.1"}, {}},
     {"word for no value", in_configure + "cli ont-sn-format fancy\n", {"2: ont_sn_format: no value has this word"}, {}},
@@ -257,8 +202,12 @@ const Case cases[] = {
      {"3: profile_ont_shaping: no object has this name"},
      {}},
     {"object of the empty name", in_configure + "profile vlan \"\"\n", {}, {"pon.profiles_olt.vlan.1.exist 1"}},
-    {"user of the empty name", in_configure + "user \"\" privilege 1\n", {"2: no object has the empty name"}, {}},
-    {"emptied name", // another object, by its meaning
+    {"user of the empty name",
+     in_configure + "user \"\" privilege 1\n",
+     {},
+     {"system.user.0.exist 1", "system.user.0.name ", "system.user.0.priority 1"}},
+    {"alias of the empty name", in_configure + "ip snmp alias name \"\"\n", {}, {}}, // an entry of nothing but zeros
+    {"emptied name",                                                                 // another object, by its meaning
      in_address_table + "name \"\"\n",
      {},
      {"pon.profiles_olt.address_table.3.exist 1", "pon.profiles_olt.address_table.3.exist 0",
@@ -294,7 +243,7 @@ const Case cases[] = {
      in_address_table + "s-vlan 0\ns-vlan 0 use c-vlan\n",
      {"3: svlan: 0 is no entry", "4: svlan: 0 is no entry"},
      {}},
-    {"alarm without a type", in_configure + "alarm dummy ttl 5\n", {}, {}},
+    {"alarm without a type", in_configure + "alarm dummy ttl 5\n", {"2: type: dummy is no entry"}, {}},
     {"alarm that no entry has",
      in_configure + "alarm link ttl 5\n",
      {},

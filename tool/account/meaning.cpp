@@ -28,10 +28,7 @@ std::string text_meant(const Field& field, const unsigned char* at)
         text.resize(std::min<std::size_t>(text.size(), field.syntax.longest));
     }
     if (field.syntax.port_marker) {
-        constexpr std::string_view shown = "%GPON-PORT%";
-        for (std::size_t i = 0; (i = text.find(shown, i)) != text.npos;) {
-            text.replace(i, shown.size(), "%CHANNELID%");
-        }
+        spell_marker(text.data(), text.size());
     }
     return text;
 }
@@ -66,9 +63,11 @@ ReferenceMeant reference_meant(const Field& field, const unsigned char* at, cons
     const std::int64_t number = get_number(field, at);
     const std::int64_t slot = slot_referred(field, number);
     const auto to = referred(field.reference);
-    const bool to_profile = slot == number; // any number is one, of a profile
+    if (refers_to_terminal_vlan(field) && is_of_vlan(field, number)) {
+        return {Kind::number, {}, number};
+    }
     if (slot < 0 || slot >= to->field->count) {
-        return to_profile ? ReferenceMeant{Kind::none, {}} : ReferenceMeant{Kind::number, {}, number};
+        return {Kind::none, {}};
     }
     return object_meant(*to, static_cast<std::size_t>(slot), configuration);
 }

@@ -17,7 +17,7 @@
 
 namespace pondiff::tool {
 
-/// What a reference means: the name of what it refers to, or none; a number that refers to nothing may mean itself.
+/// What a reference means: the name of what it refers to, or none. A VLAN id or a priority means itself.
 struct ReferenceMeant {
     enum class Kind : std::uint8_t { none, name, number } kind;
     std::string_view name;

@@ -1,6 +1,7 @@
 #include "tool/language/index.h"
 
 #include "tool/describe/records.h"
+#include "tool/language/objects.h"
 
 #include <algorithm>
 #include <charconv>
@@ -119,11 +120,6 @@ bool has_wordless(const Field& array)
 /// Places for the words of all commands: four times as many as there are, so that places are mostly free.
 constexpr std::size_t index_size = 8192;
 constexpr std::size_t edges_at_most = index_size / 2;
-
-bool stands_for_terminal_vlan(const Field& field)
-{
-    return field.reference == Reference::terminal_vlan_id || field.reference == Reference::terminal_vlan_priority;
-}
 
 } // namespace
 
@@ -267,7 +263,7 @@ class Index::Builder {
             insert(*context.view, context, &record, variant, pattern);
             const std::size_t element = variant.find("<#>");
             if (element != variant.npos && context.array != nullptr && has_wordless(*context.array)) {
-                Pattern of_any_element;
+                Pattern of_any_element = pattern;
                 of_any_element.does = Pattern::Does::nothing;
                 insert(*context.view, context, &record, variant.erase(element, 3), of_any_element);
             }
@@ -330,7 +326,7 @@ class Index::Builder {
         }
         end(node, pattern, form);
         const std::size_t value = form.rfind('<');
-        if (!pattern.terminal_vlan && pattern.field != nullptr && stands_for_terminal_vlan(*pattern.field)) {
+        if (!pattern.terminal_vlan && pattern.field != nullptr && refers_to_terminal_vlan(*pattern.field)) {
             pattern = without_targets;
             pattern.terminal_vlan = true;
             insert(view, context, record, form.substr(0, value) + "terminal-vlan " + form.substr(value), pattern);
@@ -462,19 +458,20 @@ bool Index::match(std::uint32_t node, std::size_t at, std::size_t captured, cons
         if (next != 0 && match(next, at + 1, captured, tokens, found)) {
             return true;
         }
-        if (here.prefixed != 0 && token.text.substr(0, here.prefix.size()) == here.prefix) {
-            found.words[captured] = {token.text.substr(here.prefix.size()), false, 0};
-            if (match(here.prefixed, at + 1, captured + 1, tokens, found)) {
-                return true;
-            }
+    }
+    // Between quotes, too: a word that shows a value, in part or as a whole, may stand there.
+    if (here.prefixed != 0 && token.text.substr(0, here.prefix.size()) == here.prefix) {
+        found.words[captured] = {token.text.substr(here.prefix.size()), token.quoted, 0};
+        if (match(here.prefixed, at + 1, captured + 1, tokens, found)) {
+            return true;
         }
-        const std::size_t slash = here.split != 0 ? token.text.find('/') : token.text.npos;
-        if (slash != token.text.npos) {
-            found.words[captured] = {token.text.substr(0, slash), false, 0};
-            found.words[captured + 1] = {token.text.substr(slash + 1), false, 0};
-            if (match(here.split, at + 1, captured + 2, tokens, found)) {
-                return true;
-            }
+    }
+    const std::size_t slash = here.split != 0 ? token.text.find('/') : token.text.npos;
+    if (slash != token.text.npos) {
+        found.words[captured] = {token.text.substr(0, slash), token.quoted, 0};
+        found.words[captured + 1] = {token.text.substr(slash + 1), token.quoted, 0};
+        if (match(here.split, at + 1, captured + 2, tokens, found)) {
+            return true;
         }
     }
     if (here.any == 0) {

@@ -40,7 +40,7 @@ struct Pattern {
     enum class Does : std::uint8_t {
         set,       ///< sets the targets
         name,      ///< names the array's element, and no more
-        nothing,   ///< written for any value
+        nothing,   ///< written for several elements or values: its words are read, and set nothing
         read,      ///< what the field's own reader makes of it
         remove,    ///< removes the array's element
         enter,     ///< enters the view of the array's element

@@ -5,6 +5,7 @@
 #include "tool/language/objects.h"
 
 #include <algorithm>
+#include <arpa/inet.h>
 #include <charconv>
 #include <cstring>
 #include <fmt/format.h>
@@ -17,19 +18,10 @@ namespace {
 
 constexpr std::int64_t ambiguous = -1;
 
-Said refused(std::string reason)
+void refuse(Said& said, std::string reason)
 {
-    Said said;
     said.result = Said::Result::refused;
     said.reason = std::move(reason);
-    return said;
-}
-
-Said value(std::int64_t number)
-{
-    Said said;
-    said.number = number;
-    return said;
 }
 
 /// The words of an enumeration. A word of several known values stands for none of them.
@@ -50,18 +42,16 @@ class KnownWords {
         }
     }
 
-    Said read(std::string_view word) const
+    void read(std::string_view word, Said& said) const
     {
         const auto known = numbers_.find(word);
         if (known == numbers_.end() && word != otherwise_ && !(word.empty() && has_wordless_)) {
-            return refused("no value has this word");
+            refuse(said, "no value has this word");
+        } else if (known == numbers_.end() || known->second == ambiguous) {
+            said.result = Said::Result::ambiguous;
+        } else {
+            said.number = known->second;
         }
-        if (known != numbers_.end() && known->second != ambiguous) {
-            return value(known->second);
-        }
-        Said said;
-        said.result = Said::Result::ambiguous;
-        return said;
     }
 
   private:
@@ -83,132 +73,144 @@ class KnownWords {
     bool has_wordless_ = false;
 };
 
-Said read_number(const Field& field, std::string_view digits)
+void read_number(const Field& field, std::string_view digits, Said& said)
 {
     const Syntax& syntax = field.syntax;
-    std::int64_t least = smallest(field) + syntax.counted_from;
-    std::int64_t greatest = largest(field) + syntax.counted_from;
-    if (syntax.shown_signed) {
-        least = INT32_MIN;
-        greatest = INT32_MAX;
+    const std::int64_t least = syntax.shown_signed ? INT32_MIN : smallest(field) + syntax.counted_from;
+    const std::int64_t greatest = syntax.shown_signed ? INT32_MAX : largest(field) + syntax.counted_from;
+    if (!read_decimal(digits, least, greatest, said.number)) {
+        refuse(said, fmt::format("expected a number from {} to {}", least, greatest));
+    } else if (syntax.special != nullptr && said.number == syntax.special_value) {
+        refuse(said, fmt::format("expected {} for this number", syntax.special));
     }
-    std::int64_t number = 0;
-    if (!read_decimal(digits, least, greatest, number)) {
-        return refused(fmt::format("expected a number from {} to {}", least, greatest));
-    }
-    return value(number - syntax.counted_from);
+    said.number -= syntax.counted_from;
 }
 
-Said read_hexadecimal(const Field& field, std::string_view digits)
+/// With as many digits as the CLI writes, and more only where the number needs them.
+void read_hexadecimal(const Field& field, std::string_view text, Said& said)
 {
+    const int digits = field.width == 2 ? 4 : 6;
     std::uint64_t number = 0;
-    if (!parse_hexadecimal(digits, number) || number > static_cast<std::uint64_t>(largest(field))) {
-        return refused(fmt::format("expected a hexadecimal number from 0x0 to {:#X}", largest(field)));
+    std::string written;
+    if (parse_hexadecimal(text, number) && number <= static_cast<std::uint64_t>(largest(field))) {
+        append_hexadecimal(written, static_cast<std::uint32_t>(number), digits);
     }
-    return value(static_cast<std::int64_t>(number));
+    if (written != text) {
+        refuse(said, fmt::format("expected a hexadecimal number from 0x{:0{}X} to 0x{:X}", 0, digits, largest(field)));
+    }
+    said.number = static_cast<std::int64_t>(number);
 }
 
-Said read_name(const Field& field, std::string_view name, const GCfg& configuration)
+void read_name(const Field& field, std::string_view name, const GCfg& configuration, Said& said)
 {
     const auto to = referred(field.reference);
     auto* const bytes = const_cast<unsigned char*>(reinterpret_cast<const unsigned char*>(&configuration));
     const Table table{to->field, bytes + to->offset};
-    const auto slot = table.find_text(*to->field->record->name_member, name);
-    if (slot) {
-        return value(number_referring(field, *slot));
+    if (const auto slot = table.find_text(*to->field->record->name_member, name)) {
+        said.number = number_referring(field, *slot);
+    } else if (name == "unassigned") {
+        said.number = -1;
+    } else {
+        refuse(said, "no object has this name");
     }
-    if (name == "unassigned") {
-        return value(-1);
-    }
-    return refused("no object has this name");
 }
 
-Said read_text(const Field& field, std::string_view text)
+void read_text(const Field& field, std::string_view text, Said& said)
 {
     const std::size_t longest = field.syntax.longest != 0 ? field.syntax.longest : field.width;
     if (text.size() > longest) {
-        return refused(fmt::format("expected at most {} characters", longest));
+        refuse(said, fmt::format("expected at most {} characters", longest));
     }
-    Said said;
     said.text = text;
-    return said;
 }
 
-/// "5,7-9": numbers, and ranges by their first and last.
-Said read_list(const Field& field, std::string_view list)
+/// "5,7-9": numbers, and ranges by their first and last, in any order. -1, which ends a list, is in none.
+void read_list(const Field& field, std::string_view list, Said& said)
 {
-    Said said;
     const auto take_number = [&](std::int64_t& number) {
-        const auto [end, error] = std::from_chars(list.data(), list.data() + list.size(), number);
-        if (error != std::errc{} || number < smallest(field) || number > largest(field) || number == -1) {
+        const std::size_t sign = list.substr(0, 1) == "-" ? 1 : 0;
+        const std::size_t end = std::min(list.find_first_of(",-", sign), list.size());
+        const bool taken = read_decimal(list.substr(0, end), smallest(field), largest(field), number) && number != -1;
+        list.remove_prefix(end);
+        return taken;
+    };
+    const auto take_range = [&](std::int64_t& first, std::int64_t& last) {
+        if (!take_number(first)) {
             return false;
         }
-        list.remove_prefix(static_cast<std::size_t>(end - list.data()));
+        last = first;
+        if (list.substr(0, 1) == "-") {
+            list.remove_prefix(1);
+            return take_number(last) && last > first && (first > -1 || last < -1);
+        }
         return true;
     };
-    while (!list.empty()) {
+    for (bool more = !list.empty(); more;) {
         std::int64_t first = 0;
-        if (!take_number(first)) {
-            return refused("expected numbers and ranges such as 5,7-9");
-        }
-        std::int64_t last = first;
-        if (!list.empty() && list.front() == '-') {
-            list.remove_prefix(1);
-            if (!take_number(last) || last <= first) {
-                return refused("expected numbers and ranges such as 5,7-9");
-            }
+        std::int64_t last = 0;
+        if (!take_range(first, last)) {
+            return refuse(said, "expected numbers and ranges such as 5,7-9");
         }
         if (static_cast<std::uint64_t>(last - first) >= field.count - said.numbers.size()) {
-            return refused(fmt::format("expected at most {} numbers", field.count));
+            return refuse(said, fmt::format("expected at most {} numbers", field.count));
         }
         for (; first <= last; ++first) {
             said.numbers.push_back(first);
         }
-        if (!list.empty() && (list.front() != ',' || list.size() == 1)) {
-            return refused("expected numbers and ranges such as 5,7-9");
+        more = !list.empty();
+        if (more && list.front() != ',') {
+            return refuse(said, "expected numbers and ranges such as 5,7-9");
         }
-        list.remove_prefix(list.empty() ? 0 : 1);
+        list.remove_prefix(more ? 1 : 0);
     }
-    return said;
 }
 
-/// A serial number in one of its layouts. Where the CLI shows none, it is written empty for every ONT.
-Said read_serial(std::string_view text)
+/// A serial number in one of the layouts of the CLI. Where that shows none, it is written empty for every ONT.
+void read_serial(std::string_view text, Said& said)
 {
-    Said said;
-    constexpr std::size_t vendor_digits = 8;
-    std::string digits(text);
-    if (digits.size() == 17 && digits[vendor_digits] == '-') {
-        digits.erase(vendor_digits, 1);
-    }
+    constexpr std::size_t pretty = 12;
+    constexpr std::size_t dashed = 17;
+    constexpr std::size_t vendor = 4; // its characters; in other layouts the CLI shows any that are no capital letters
+    constexpr std::string_view capitals = "ABCDEFGHIJKLMNOPQRSTUVWXYZ";
     if (text.empty()) {
         said.result = Said::Result::ambiguous;
-    } else if (!parse_serial(digits, said.bytes)) {
-        return refused("expected a serial number such as ABCD01020304");
+        return;
     }
-    return said;
+    std::string digits(text.substr(0, dashed));
+    if (digits.size() == dashed && digits[2 * vendor] == '-') {
+        digits.erase(2 * vendor, 1);
+    }
+    char written[24] = {};
+    const bool has_capitals = text.substr(0, vendor).find_first_not_of(capitals) == text.npos;
+    if ((text.size() != pretty || has_capitals) && parse_serial(digits, said.bytes)) {
+        const auto convert = text.size() == pretty   ? convert_sn_bintostr_pretty
+                             : text.size() == dashed ? convert_sn_bintostr_dashed
+                                                     : convert_sn_bintostr_dense;
+        convert(written, said.bytes);
+    }
+    if (text != written) {
+        refuse(said, "expected a serial number such as ABCD01020304");
+    }
 }
 
-template <class Parse>
-Said read_bytes(std::string_view text, Parse parse, const char* expected)
+/// An address or the like that is written in one way only.
+template <class Parse, class Write>
+void read_bytes(std::string_view text, Parse parse, Write write, const char* expected, Said& said)
 {
-    Said said;
-    if (!parse(text, said.bytes)) {
-        return refused(expected);
+    char written[64] = {};
+    if (parse(text, said.bytes)) {
+        write(written, said.bytes);
     }
-    return said;
+    if (text != written) {
+        refuse(said, expected);
+    }
 }
 
-/// The port's marker in a relay format, in the spelling that records have.
-void spell_marker(unsigned char* text, std::size_t size)
+/// Leaves out what a notation allows besides: "007", "-0".
+bool is_shortest(std::string_view number)
 {
-    constexpr std::string_view shown = "%GPON-PORT%";
-    constexpr std::string_view stored = "%CHANNELID%";
-    static_assert(shown.size() == stored.size());
-    const std::string_view all(reinterpret_cast<const char*>(text), size);
-    for (std::size_t at = 0; (at = all.find(shown, at)) != all.npos; at += stored.size()) {
-        std::memcpy(text + at, stored.data(), stored.size());
-    }
+    const std::string_view digits = number.substr(number.substr(0, 1) == "-" ? 1 : 0);
+    return digits.substr(0, 1) != "0" || number == "0";
 }
 
 } // namespace
@@ -232,63 +234,69 @@ std::string_view word_of(const Field& field, std::int64_t number)
 bool read_decimal(std::string_view digits, std::int64_t least, std::int64_t greatest, std::int64_t& number)
 {
     const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
-    return error == std::errc{} && end == digits.data() + digits.size() && number >= least && number <= greatest;
+    return error == std::errc{} && end == digits.data() + digits.size() && number >= least && number <= greatest &&
+           is_shortest(digits);
 }
 
-Said read_word(const Field& field, std::string_view word)
+void read_word(const Field& field, std::string_view word, Said& said)
 {
     static std::map<const Field*, KnownWords> known;
-    return known.try_emplace(&field, field).first->second.read(word);
+    known.try_emplace(&field, field).first->second.read(word, said);
 }
 
-Said read_terminal_vlan(const Field& field, const Token& token, const GCfg& configuration)
+void read_terminal_vlan(const Field& field, const Token& token, const GCfg& configuration, Said& said)
 {
-    return read_name(field, token.text, configuration);
+    said.clear();
+    read_name(field, token.text, configuration, said);
 }
 
-Said read_value(const Field& field, const Token& token, const GCfg& configuration)
+void read_value(const Field& field, const Token& token, const GCfg& configuration, Said& said)
 {
     const Syntax& syntax = field.syntax;
-    if (syntax.special != nullptr && token.text == syntax.special) {
-        return value(syntax.special_value);
+    const std::string_view text = token.text;
+    said.clear();
+    if (syntax.special != nullptr && text == syntax.special) {
+        said.number = syntax.special_value;
+        return;
     }
     if (has_words(field)) {
-        return read_word(field, token.text);
+        return read_word(field, text, said);
     }
     if (field.layout == Layout::ended_list) {
-        return read_list(field, token.text);
+        return read_list(field, text, said);
     }
     switch (field.form) {
     case Form::number:
     case Form::boolean:
-        return read_number(field, token.text);
+        return read_number(field, text, said);
     case Form::hexadecimal:
-        return read_hexadecimal(field, token.text);
+        return read_hexadecimal(field, text, said);
     case Form::reference:
-        return field.reference == Reference::terminal_vlan_id || field.reference == Reference::terminal_vlan_priority
-                   ? read_number(field, token.text)
-                   : read_name(field, token.text, configuration);
+        return refers_to_terminal_vlan(field) ? read_number(field, text, said)
+                                              : read_name(field, text, configuration, said);
     case Form::text:
     case Form::secret:
-        return read_text(field, token.text);
+        return read_text(field, text, said);
     case Form::ipv4:
-        return read_bytes(token.text, parse_ipv4, "expected an address such as 10.0.0.1");
+        return read_bytes(text, parse_ipv4, convert_ip_bintostr, "expected an address such as 10.0.0.1", said);
     case Form::ipv6:
-        return read_bytes(token.text, parse_ipv6, "expected an address such as 2001:db8::1");
+        return read_bytes(
+            text, parse_ipv6,
+            [](char* out, const unsigned char* bytes) { inet_ntop(AF_INET6, bytes, out, INET6_ADDRSTRLEN); },
+            "expected an address such as 2001:db8::1", said);
     case Form::mac:
-        return read_bytes(token.text, parse_mac, "expected an address such as AA:BB:CC:DD:EE:FF");
+        return read_bytes(text, parse_mac, convert_mac_bintostr, "expected an address such as AA:BB:CC:DD:EE:FF", said);
     case Form::serial:
-        return read_serial(token.text);
+        return read_serial(text, said);
     case Form::engine_id:
         return read_bytes(
-            token.text,
-            [&field](std::string_view text, unsigned char* out) { return parse_hex(text, out, field.width); },
-            "expected 26 hexadecimal digits");
+            text, [&field](std::string_view digits, unsigned char* out) { return parse_hex(digits, out, field.width); },
+            convert_snmpengineid_bintostr, "expected 26 hexadecimal digits in small letters", said);
     case Form::enumeration:
     case Form::record:
         break;
     }
-    return refused("the field has no value of its own");
+    refuse(said, "the field has no value of its own");
 }
 
 void store(const Field& field, unsigned char* at, const Said& said)
@@ -304,7 +312,7 @@ void store(const Field& field, unsigned char* at, const Said& said)
         std::memset(at, 0, field.width);
         std::memcpy(at, said.text.data(), said.text.size());
         if (field.syntax.port_marker) {
-            spell_marker(at, field.width);
+            spell_marker(reinterpret_cast<char*>(at), field.width);
         }
     } else {
         std::memcpy(at, said.bytes, field.width);

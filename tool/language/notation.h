@@ -8,6 +8,7 @@
 #include "tool/language/tokens.h"
 
 #include <cstdint>
+#include <cstring>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -27,23 +28,35 @@ struct Said {
     unsigned char bytes[16]{};         ///< of an address: as many as the field has
     std::vector<std::int64_t> numbers; ///< of a list
     std::string reason;                ///< Result::refused: why
+
+    /// Makes it the number 0, the empty text, the address 0 and the empty list.
+    void clear()
+    {
+        result = Result::value;
+        number = 0;
+        text = {};
+        std::memset(bytes, 0, sizeof bytes);
+        numbers.clear();
+    }
 };
 
+/// Reads what the CLI itself writes for a value, and no other spelling of it.
 /// @param field          not a record; of an array, one of its elements, but a list as a whole
 /// @param configuration  where names are looked up
-Said read_value(const Field& field, const Token& token, const GCfg& configuration);
+/// @param said           gets what the word says
+void read_value(const Field& field, const Token& token, const GCfg& configuration, Said& said);
 
 /// The same for a number that stands for a terminal VLAN, told by the VLAN's name.
-Said read_terminal_vlan(const Field& field, const Token& token, const GCfg& configuration);
+void read_terminal_vlan(const Field& field, const Token& token, const GCfg& configuration, Said& said);
 
 /// Whether the field's values are words, and the word of one; empty where it has none.
 bool has_words(const Field& field);
 std::string_view word_of(const Field& field, std::int64_t number);
 
 /// The value for which a vocabulary has a word, among those that may occur.
-Said read_word(const Field& field, std::string_view word);
+void read_word(const Field& field, std::string_view word, Said& said);
 
-/// A number from `least` to `greatest` in decimal.
+/// A number from `least` to `greatest` in decimal, without leading zeros.
 bool read_decimal(std::string_view digits, std::int64_t least, std::int64_t greatest, std::int64_t& number);
 
 /// Puts what was said in the element of the field at `at`.

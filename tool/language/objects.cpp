@@ -20,11 +20,6 @@ bool all_zero(const unsigned char* at, std::size_t size)
     return std::all_of(at, at + size, [](unsigned char byte) { return byte == 0; });
 }
 
-bool to_terminal_vlan(Reference reference)
-{
-    return reference == Reference::terminal_vlan_id || reference == Reference::terminal_vlan_priority;
-}
-
 /// The described array that begins at an offset of the configuration.
 const Field* array_at(const Record& record, std::size_t base, std::size_t offset)
 {
@@ -97,7 +92,7 @@ void make_blank(const Record& record, unsigned char* at)
                 std::memcpy(first + i * field.width, first, field.width);
             }
         } else if (field.layout == Layout::ended_list ||
-                   (field.reference != Reference::none && !to_terminal_vlan(field.reference))) {
+                   (field.reference != Reference::none && !refers_to_terminal_vlan(field))) {
             std::memset(first, 0xFF, field.size); // -1, whatever its width
         }
     }
@@ -108,6 +103,17 @@ std::unique_ptr<GCfg> blank_configuration()
     auto configuration = std::make_unique<GCfg>();
     make_blank(gcfg_record, reinterpret_cast<unsigned char*>(configuration.get()));
     return configuration;
+}
+
+void spell_marker(char* text, std::size_t size)
+{
+    constexpr std::string_view shown = "%GPON-PORT%";
+    constexpr std::string_view stored = "%CHANNELID%";
+    static_assert(shown.size() == stored.size());
+    const std::string_view all(text, size);
+    for (std::size_t at = 0; (at = all.find(shown, at)) != all.npos; at += stored.size()) {
+        std::memcpy(text + at, stored.data(), stored.size());
+    }
 }
 
 std::string_view text_in(const Field& field, const unsigned char* at)
@@ -184,6 +190,17 @@ const std::vector<Referred>& referred_arrays()
         return all;
     }();
     return arrays;
+}
+
+bool refers_to_terminal_vlan(const Field& field)
+{
+    return field.reference == Reference::terminal_vlan_id || field.reference == Reference::terminal_vlan_priority;
+}
+
+bool is_of_vlan(const Field& field, std::int64_t number)
+{
+    constexpr std::int64_t references = 100; // to terminal VLANs: from this number on
+    return field.reference == Reference::terminal_vlan_id ? number >= 0 : number < references;
 }
 
 std::int64_t slot_referred(const Field& field, std::int64_t number)

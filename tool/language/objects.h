@@ -25,6 +25,9 @@ void make_blank(const Record& record, unsigned char* at);
 /// A configuration in which nothing exists and nothing is set.
 std::unique_ptr<GCfg> blank_configuration();
 
+/// Spells the port's marker in a relay format as records do, where it is spelled as the CLI does.
+void spell_marker(char* text, std::size_t size);
+
 /// A text up to its terminator or the end of its field.
 std::string_view text_in(const Field& field, const unsigned char* at);
 
@@ -52,6 +55,13 @@ std::optional<Referred> referred(Reference reference);
 
 /// Every array of objects that references refer to.
 const std::vector<Referred>& referred_arrays();
+
+/// Whether the field holds a VLAN id or a priority, or refers to a terminal VLAN.
+bool refers_to_terminal_vlan(const Field& field);
+
+/// Whether a number of such a field is a VLAN id or a priority. What is neither that nor a reference is none; what
+/// removes a reference, or sets it to `unassigned`, sets all of its bits.
+bool is_of_vlan(const Field& field, std::int64_t number);
 
 /// The slot that a number of the field refers to, -1 where it refers to none; and the number that refers to a slot.
 std::int64_t slot_referred(const Field& field, std::int64_t number);

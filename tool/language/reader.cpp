@@ -71,12 +71,10 @@ bool Device::take(const Match& match)
     switch (match.pattern->does) {
     case Pattern::Does::set:
     case Pattern::Does::name:
+    case Pattern::Does::nothing:
         return set(match);
     case Pattern::Does::read:
         return match.pattern->field->syntax.kind == Syntax::Kind::flags ? read_flag(match) : read_irregular(match);
-    case Pattern::Does::nothing:
-        line_.ambiguous = true;
-        return true;
     case Pattern::Does::remove:
         line_.kind = Line::Kind::removal;
         return remove(match);
@@ -116,33 +114,38 @@ bool Device::set(const Match& match)
     if (said_.size() < pattern.targets.size()) {
         said_.resize(pattern.targets.size());
     }
+    line_.ambiguous = pattern.does == Pattern::Does::nothing;
     for (std::size_t i = 0; i < pattern.targets.size(); ++i) {
         const Target& target = pattern.targets[i];
+        Said& said = said_[i];
         if (target.word < 0) {
-            said_[i] = {};
-            said_[i].number = target.constant;
+            said.clear();
+            said.number = target.constant;
             continue;
         }
         const Token& token = match.words[static_cast<std::size_t>(target.word)];
-        said_[i] = pattern.terminal_vlan ? read_terminal_vlan(*target.field, token, configuration_)
-                                         : read_value(*target.field, token, configuration_);
-        if (said_[i].result == Said::Result::refused) {
-            return refuse(fmt::format("{}: {}", target.field->name, said_[i].reason));
+        if (pattern.terminal_vlan) {
+            read_terminal_vlan(*target.field, token, configuration_, said);
+        } else {
+            read_value(*target.field, token, configuration_, said);
         }
-        line_.ambiguous = line_.ambiguous || said_[i].result == Said::Result::ambiguous;
+        if (said.result == Said::Result::refused) {
+            return refuse(fmt::format("{}: {}", target.field->name, said.reason));
+        }
+        line_.ambiguous = line_.ambiguous || said.result == Said::Result::ambiguous;
+    }
+    unsigned char* at = base();
+    if (pattern.array != nullptr) {
+        std::size_t slot = 0;
+        if (!find_element(match, !line_.ambiguous, slot)) {
+            return line_.kind != Line::Kind::refused;
+        }
+        at += pattern.array_offset + slot * pattern.array->width;
     }
     if (line_.ambiguous) {
         return true;
     }
     line_.names_only = pattern.does == Pattern::Does::name && pattern.array->element.told == Element::Told::by_name;
-    unsigned char* at = base();
-    if (pattern.array != nullptr) {
-        std::size_t slot = 0;
-        if (!find_element(match, true, slot)) {
-            return false;
-        }
-        at += pattern.array_offset + slot * pattern.array->width;
-    }
     for (std::size_t i = 0; i < pattern.targets.size(); ++i) {
         const Target& target = pattern.targets[i];
         store(*target.field, at + target.offset, said_[i]);
@@ -280,7 +283,7 @@ bool Device::find_element(const Match& match, bool create, std::size_t& slot)
     unsigned char* const first = base() + pattern.array_offset;
     const bool has_flag = array.record != nullptr && array.record->existence_member != nullptr;
     return !create || !has_flag || in_use(*array.record, first + slot * array.width) ||
-           this->create(array, first, slot, nullptr, nullptr);
+           this->create(array, first, slot, nullptr);
 }
 
 bool Device::find_by_text(const Match& match, const Field& member, bool create, std::size_t& slot)
@@ -300,19 +303,16 @@ bool Device::find_by_text(const Match& match, const Field& member, bool create, 
     if (!create) {
         return false;
     }
-    const Said name = read_value(member, token, configuration_);
-    if (name.result == Said::Result::refused) {
-        return refuse(fmt::format("{}: {}", member.name, name.reason));
-    }
-    if (token.text.empty() && pattern.does != Pattern::Does::enter) {
-        return refuse("no object has the empty name");
+    read_value(member, token, configuration_, told_);
+    if (told_.result == Said::Result::refused) {
+        return refuse(fmt::format("{}: {}", member.name, told_.reason));
     }
     const auto free = find_free(table);
     if (!free) {
         return refuse(fmt::format("all {} {} are in use", pattern.array->count, pattern.array->plural));
     }
     slot = *free;
-    return this->create(*pattern.array, table.first, slot, &member, &name);
+    return this->create(*pattern.array, table.first, slot, &member);
 }
 
 bool Device::find_by_key(const Match& match, bool create, std::size_t& slot)
@@ -322,24 +322,23 @@ bool Device::find_by_key(const Match& match, bool create, std::size_t& slot)
     if (is_text(key)) {
         return find_by_text(match, key, create, slot);
     }
-    const Said said = read_value(key, match.words[static_cast<std::size_t>(pattern.element)], configuration_);
-    if (said.result != Said::Result::value) {
-        line_.ambiguous = said.result == Said::Result::ambiguous;
-        return line_.ambiguous ? false : refuse(fmt::format("{}: {}", key.name, said.reason));
+    const Token& token = match.words[static_cast<std::size_t>(pattern.element)];
+    read_value(key, token, configuration_, told_);
+    if (told_.result != Said::Result::value) {
+        line_.ambiguous = told_.result == Said::Result::ambiguous;
+        return line_.ambiguous ? false : refuse(fmt::format("{}: {}", key.name, told_.reason));
     }
-    unsigned char bytes[16]{};
-    store(key, bytes, said);
-    const bool names_none = key.syntax.zero_is_free && said.number == 0;
-    if (names_none && key.syntax.vocabulary == nullptr) {
-        return refuse(fmt::format("{}: 0 is no entry", key.name));
+    if (key.syntax.zero_is_free && told_.number == 0) {
+        return refuse(fmt::format("{}: {} is no entry", key.name, token.text));
     }
+    unsigned char bytes[sizeof told_.bytes]{};
+    store(key, bytes, told_);
     const Table table{pattern.array, base() + pattern.array_offset};
-    if (named_array_ == table.first && !names_none && table.has_bytes(named_slot_, key, bytes)) {
+    if (named_array_ == table.first && table.has_bytes(named_slot_, key, bytes)) {
         slot = named_slot_;
         return true;
     }
-    const auto found = names_none ? table.free_slot() : table.find(key, bytes);
-    if (found) {
+    if (const auto found = table.find(key, bytes)) {
         slot = *found;
         remember(table.first, slot);
         return true;
@@ -352,7 +351,7 @@ bool Device::find_by_key(const Match& match, bool create, std::size_t& slot)
         return refuse(fmt::format("all {} {} are in use", pattern.array->count, pattern.array->plural));
     }
     slot = *free;
-    return this->create(*pattern.array, table.first, slot, &key, &said);
+    return this->create(*pattern.array, table.first, slot, &key);
 }
 
 std::optional<std::size_t> Device::find_free(const Table& table)
@@ -366,9 +365,8 @@ std::optional<std::size_t> Device::find_free(const Table& table)
     return free;
 }
 
-/// Makes a blank element in a free slot, there and told by `identity`.
-bool Device::create(const Field& array, unsigned char* first, std::size_t slot, const Field* member,
-                    const Said* identity)
+/// Makes a blank element in a free slot, and has `member`, where there is one, say what the command tells it by.
+bool Device::create(const Field& array, unsigned char* first, std::size_t slot, const Field* member)
 {
     unsigned char* const at = first + slot * array.width;
     make_blank(*array.record, at);
@@ -379,7 +377,7 @@ bool Device::create(const Field& array, unsigned char* first, std::size_t slot, 
     }
     remember(first, slot);
     if (member != nullptr) {
-        store(*member, at + member->offset, *identity);
+        store(*member, at + member->offset, told_);
         note(*member, at + member->offset, member->width);
     }
     return true;

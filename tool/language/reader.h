@@ -90,7 +90,7 @@ class Device {
     bool find_by_text(const Match& match, const Field& member, bool create, std::size_t& slot);
     bool find_by_key(const Match& match, bool create, std::size_t& slot);
     std::optional<std::size_t> find_free(const Table& table);
-    bool create(const Field& array, unsigned char* first, std::size_t slot, const Field* member, const Said* identity);
+    bool create(const Field& array, unsigned char* first, std::size_t slot, const Field* member);
     void remember(const unsigned char* array, std::size_t slot);
     void note(const Field& field, const unsigned char* at, std::size_t size);
     bool refuse(std::string reason);
@@ -101,6 +101,7 @@ class Device {
     Standing standing_;
     Line line_;
     std::vector<Said> said_; ///< of the targets of the line
+    Said told_;              ///< what tells the element of the line
     /// The entry that was named last: the next line mostly names it again. Forgotten when what tells entries changes.
     const unsigned char* named_array_ = nullptr;
     std::size_t named_slot_ = 0;

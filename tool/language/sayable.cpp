@@ -39,7 +39,8 @@ bool can_be_said(const Field& field, std::int64_t number)
         return true;
     }
     if (has_words(field) && !syntax.is_switch) {
-        const Said said = read_word(field, word_of(field, number));
+        Said said;
+        read_word(field, word_of(field, number), said);
         return said.result == Said::Result::value && said.number == number;
     }
     if (field.form == Form::boolean && syntax.kind == Syntax::Kind::says) {
