@@ -34,11 +34,6 @@ void add_names(const Patch& patch, std::vector<Patch>& names)
 
 void make_plain(const tool::Field& field, unsigned char* at)
 {
-    if (field.form == tool::Form::serial) {
-        for (int i = 0; i < 4; ++i) {
-            at[i] = static_cast<unsigned char>('A' + at[i] % 26);
-        }
-    }
     if (!is_text(field)) {
         return;
     }

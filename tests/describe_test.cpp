@@ -65,6 +65,31 @@ static_assert(!compiles(says("first <first>", "no first <third>")));
 static_assert(!compiles(says("first <first>"), with("first")));
 static_assert(!compiles(says("first <first> <second>"), with("third")));
 static_assert(!compiles(no_command("a reason"), with("first")));
+static_assert(!compiles(no_command(nullptr)) && !compiles(no_command("")));
+static_assert(!compiles(says("first <first> <second>"), with(nullptr)));
+
+/// The same of a table of one switch.
+constexpr bool compiles_switch(const Syntax& syntax)
+{
+    struct __attribute__((packed)) Switch {
+        std::uint16_t on;
+    };
+    const Field table[] = {boolean(FIELD(Switch, on), syntax)};
+    return have_syntax(table);
+}
+
+constexpr const char* bits[] = {"bit"};
+
+static_assert(compiles_switch(on_off("on", "no on")));
+static_assert(compiles_switch(on_off(nullptr, "no on")) && compiles_switch(on_off("on", nullptr)));
+static_assert(!compiles_switch(on_off(nullptr, nullptr)));
+static_assert(compiles_switch(flags("on <#>", "no on <#>", bits)));
+static_assert(!compiles_switch(flags(nullptr, "no on <#>", bits)) && !compiles_switch(flags("on <#>", nullptr, bits)));
+static_assert(compiles_switch(whatever_the_value("on")) && !compiles_switch(whatever_the_value(nullptr)));
+static_assert(compiles_switch(irregular("on <?>", nullptr, [](Taking&) {})));
+static_assert(!compiles_switch(irregular("on <?>", nullptr, nullptr)));
+static_assert(!compiles_switch(irregular(nullptr, nullptr, [](Taking&) {})));
+static_assert(compiles_switch(counter) && compiles_switch(existence));
 
 // --------------------------------------------------------------------------------------------------------- helpers
 

@@ -51,10 +51,26 @@ std::unique_ptr<GCfg> from_record(std::string_view content)
     return configuration;
 }
 
+/// Whether a member or the end follows the brace that content begins with.
+bool goes_on_like_json(std::string_view content)
+{
+    const std::size_t second = content.find_first_not_of(" \t\r\n", content.find('{') + 1);
+    return second == content.npos || content[second] == '"' || content[second] == '}';
+}
+
 std::unique_ptr<GCfg> from_document(std::string_view content, const std::string& name)
 {
     auto configuration = std::make_unique<GCfg>();
-    read_json(content, name, *configuration);
+    try {
+        read_json(content, name, *configuration);
+    } catch (const InputError& error) {
+        if (goes_on_like_json(content)) {
+            throw;
+        }
+        throw InputError(fmt::format("{}; what begins with '{{' is read as a JSON document, so no text of commands may "
+                                     "begin with it",
+                                     error.what()));
+    }
     return configuration;
 }
 
@@ -142,7 +158,7 @@ std::unique_ptr<GCfg> Input::from_text(std::string_view content, const std::stri
         fail(content, name, "");
     }
     auto configuration = blank_configuration();
-    LineReport report(name, *configuration);
+    LineReport report(name, *configuration, base() != nullptr);
     Unsaid unsaid(*configuration);
     read_script(without_mark(content), *configuration, [&](const Line& line) {
         report.add(line);
@@ -184,8 +200,8 @@ std::string Input::script(const std::string& file)
     std::string content = read_file(file);
     const Kind kind = kind_of(content);
     if (kind != Kind::text) {
-        throw InputError(fmt::format("{}: expected a script, but this is a {}", name_of_input(file),
-                                     kind == Kind::record ? "record" : "JSON document"));
+        throw InputError(fmt::format("{}: expected a script, but this {}", name_of_input(file),
+                                     kind == Kind::record ? "is a record" : "begins with '{' as a JSON document does"));
     }
     content.erase(0, content.size() - without_mark(content).size());
     return content;

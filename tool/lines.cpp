@@ -27,8 +27,8 @@ std::string place_of(const Line& line, const GCfg& configuration)
 
 } // namespace
 
-LineReport::LineReport(std::string file, const GCfg& configuration)
-    : file_(std::move(file)), configuration_(configuration)
+LineReport::LineReport(std::string file, const GCfg& configuration, bool is_filled_in)
+    : file_(std::move(file)), configuration_(configuration), is_filled_in_(is_filled_in)
 {
 }
 
@@ -39,7 +39,7 @@ void LineReport::add(const Line& line)
         return;
     }
     taken_ = taken_ || line.kind != Line::Kind::passed_over;
-    if (line.ambiguous) {
+    if (line.ambiguous && !(is_filled_in_ && line.of_any_value)) {
         const auto same = std::find_if(ambiguous_.shown.begin(), ambiguous_.shown.end(),
                                        [&line](const Mention& mention) { return mention.text == line.text; });
         if (same != ambiguous_.shown.end()) {

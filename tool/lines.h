@@ -16,7 +16,9 @@ class LineReport {
   public:
     /// @param file           the text's, as messages call it
     /// @param configuration  what the device holds
-    LineReport(std::string file, const GCfg& configuration);
+    /// @param is_filled_in   whether what no text of commands can say is filled in: then no line is mentioned that is
+    ///                       written whatever the value is
+    LineReport(std::string file, const GCfg& configuration, bool is_filled_in = false);
 
     /// Takes a line's outcome. The text that the line is in stays.
     void add(const Line& line);
@@ -47,6 +49,7 @@ class LineReport {
 
     std::string file_;
     const GCfg& configuration_;
+    bool is_filled_in_;
     bool taken_ = false;
     Mentions refused_;
     Mentions ambiguous_;

@@ -33,6 +33,28 @@ bool is_name(GCfg& configuration, std::string_view name)
     return false;
 }
 
+/// Whether some array of the elements that a line found no room for has none: "all 16 users are in use".
+bool is_full(std::string_view reason, const Record& record, const unsigned char* at)
+{
+    for (const Field& field : record) {
+        if (field.record == nullptr) {
+            continue;
+        }
+        const auto used = [&](std::size_t i) { return in_use(*field.record, at + field.offset + i * field.width); };
+        bool full = field.array && reason.find(std::string(" ") + field.plural + " are in use") != reason.npos;
+        for (std::size_t i = 0; i < field.count; ++i) {
+            full = full && used(i);
+            if (used(i) && is_full(reason, *field.record, at + field.offset + i * field.width)) {
+                return true;
+            }
+        }
+        if (full) {
+            return true;
+        }
+    }
+    return false;
+}
+
 bool starts_with(std::string_view text, std::string_view start)
 {
     return text.substr(0, start.size()) == start;
@@ -53,14 +75,18 @@ bool is_refused_with_reason(const Line& line, RandomPairs& pairs)
                (starts_with(line.text, "no user ") || starts_with(line.text, "no gpon network terminal-vlan "));
     }
     if (ends_with(line.reason, ": no object has this name")) {
-        // An object that the script's scope does not create, or one that the library takes for an empty name.
+        // An object that is not there, or that the script's scope does not create.
         const std::string_view name =
             starts_with(line.text, "gpon olt profile dhcp") && line.text.find(" vid ") != line.text.npos
                 ? last_word(line.text.substr(0, line.text.find(" vid ")))
                 : last_word(line.text);
-        return name.empty() || !is_name(pairs.orig(), name);
+        return !is_name(pairs.device(), name);
     }
-    return ends_with(line.reason, " are in use") || line.text == "s-vlan 0";
+    if (ends_with(line.reason, " are in use")) {
+        return is_full(line.reason, gcfg_record, bytes_of(pairs.device()));
+    }
+    // A slot that is freed: it is written with what stands in it then.
+    return line.reason == "svlan: 0 is no entry" || line.reason == "type: dummy is no entry";
 }
 
 int number_of_pairs()

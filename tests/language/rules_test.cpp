@@ -1,7 +1,6 @@
 /// What the reader makes of commands, rule by rule.
 
 #include "tests/language/configurations.h"
-#include "tool/account/meaning.h"
 #include "tool/language/index.h"
 #include "tool/language/objects.h"
 #include "tool/language/sayable.h"
@@ -291,51 +290,6 @@ TEST(Rules, FlagIsOneBit)
               0U);
     EXPECT_EQ(u32(device->pon.ont[0].voice.voip.feature_call_wait), 0x82U);
     EXPECT_EQ(read(*device, "configure terminal\ninterface ont 0/0\nvoice features call-wait sleep\n"), 1U);
-}
-
-// ------------------------------------------------------------------------------------------------------------- meaning
-
-TEST(Meaning, SlotsAndNumbersOfSwitchesDoNotMatter)
-{
-    const auto a = blank_configuration();
-    const auto b = blank_configuration();
-    make_exist(a->pon.profiles_ont.shaping, 0, "x");
-    make_exist(a->pon.profiles_ont.shaping, 1, "y");
-    make_exist(b->pon.profiles_ont.shaping, 7, "x");
-    make_exist(b->pon.profiles_ont.shaping, 2, "y");
-    a->pon.ont[0].exist = b->pon.ont[0].exist = 1;
-    a->pon.ont[0].profile_ont_shaping = 0;
-    b->pon.ont[0].profile_ont_shaping = 7;
-    a->pon.ont[0].fec_up = 1;
-    b->pon.ont[0].fec_up = 2;
-    make_exist(a->pon.profiles_olt.dhcp_ra, 0, "d");
-    make_exist(b->pon.profiles_olt.dhcp_ra, 0, "d");
-    a->pon.profiles_olt.dhcp_ra[0].remote_id_mode = 1;
-    b->pon.profiles_olt.dhcp_ra[0].remote_id_mode = 2;
-    std::strcpy(b->pon.profiles_ont.shaping[30].description, "free");
-    b->pon.ont[1].profile_ont_voice = 5;
-    b->system.network.revision = 9;
-    EXPECT_TRUE(mean_the_same(*a, *b));
-    b->pon.ont[0].profile_ont_shaping = 2;
-    EXPECT_FALSE(mean_the_same(*a, *b));
-    b->pon.ont[0].profile_ont_shaping = 7;
-    b->pon.profiles_olt.dhcp_ra[0].remote_id_mode = 0;
-    EXPECT_FALSE(mean_the_same(*a, *b));
-}
-
-/// The same number that refers to another name means something else.
-TEST(Meaning, EqualReferencesDifferWhereTheNamesDo)
-{
-    const auto a = blank_configuration();
-    make_exist(a->pon.profiles_ont.shaping, 0, "x");
-    a->pon.ont[0].exist = 1;
-    a->pon.ont[0].profile_ont_shaping = 0;
-    const auto b = std::make_unique<GCfg>(*a);
-    std::strcpy(b->pon.profiles_ont.shaping[0].name, "z");
-    std::vector<std::string> paths;
-    for_each_different_meaning({a.get(), b.get()},
-                               [&](const Beside<2>& beside) { paths.push_back(beside.path.text()); });
-    EXPECT_EQ(std::count(paths.begin(), paths.end(), "pon.ont.0.profile_ont_shaping"), 1);
 }
 
 // --------------------------------------------------------------------------------------------- what has a command

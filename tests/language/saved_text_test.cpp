@@ -1,6 +1,7 @@
 /// Configurations as texts of commands: what is written is read again.
 
 #include "bench/configurations.h"
+#include "pon/DataToCommandsConvertor.h"
 #include "tests/language/random_pairs.h"
 #include "tool/account/meaning.h"
 #include "tool/language/objects.h"
@@ -62,24 +63,39 @@ bool is_not_written(const Beside<2>& beside, const GCfg& configuration)
 {
     const Field& field = beside.field;
     const std::string path = beside.path.text();
-    if (starts_with(path, "system.network.ACS")) {
-        return true; // in no script
-    }
+    const std::size_t entry = beside.path.steps().size() > 1 ? (beside.path.steps().end() - 2)->index : 0;
     if (field.form == Form::serial) {
-        constexpr u16 last_layout = 2;
+        constexpr u16 last_layout = 2; // in any other no serial number is shown
         return configuration.system.settings.ont_sn_format > last_layout;
     }
     if (field.name == "unknown_multicast_forward_gem_port") {
-        return true; // only while the forwarding is on
+        return configuration.pon.olt.channel[entry].unknown_multicast_forward == 0; // shown while the forwarding is on
     }
-    if (starts_with(path, "pon.olt.general.profile_olt_dhcp") && !beside.there[0]) {
-        return true; // redefined by a profile that is not there
+    if (field.name == "dba_excess_allocations") {
+        return configuration.pon.olt.general.dba_reduced_latency == 0; // a mode of it
     }
-    if (starts_with(path, "system.services.alarm.type.") && !beside.there[0]) {
-        return true; // an alarm type without a word
+    if (field.name == "write_remote_id_option") {
+        return true; // the other switch of their command decides for both
     }
-    if (starts_with(path, "system.services.snmp.traps.") && !beside.there[0]) {
-        return true; // a type without a word
+    if (beside.there[0]) {
+        return false;
+    }
+    const GPonOltGeneralCfg& olt = configuration.pon.olt.general;
+    const GPonProfilesOlt& profiles = configuration.pon.profiles_olt;
+    if (starts_with(path, "pon.olt.general.profile_olt_dhcpra_redefinition")) {
+        const s32 profile = olt.profile_olt_dhcpra_redefinition[entry].profile;
+        return profile >= 0 && profile < 32 && profiles.dhcp_ra[profile].exist == 0; // has no name
+    }
+    if (starts_with(path, "pon.olt.general.profile_olt_dhcpv6ra_redefinition")) {
+        const s32 profile = olt.profile_olt_dhcpv6ra_redefinition[entry].profile;
+        return profile >= 0 && profile < 32 && profiles.dhcpv6_ra[profile].exist == 0;
+    }
+    if (starts_with(path, "system.services.alarm.type.")) {
+        return *getCliAlarmType(static_cast<int>(u32(configuration.system.services.alarm.type[entry].type))) == '\0';
+    }
+    if (starts_with(path, "system.services.snmp.traps.")) {
+        constexpr u32 last_type = 2; // any other has no word
+        return u32(configuration.system.services.snmp.traps[entry].type) > last_type;
     }
     return false;
 }
@@ -89,9 +105,11 @@ bool can_be_written(const Beside<2>& beside)
 {
     const Field& field = beside.field;
     const Syntax::Kind kind = field.syntax.kind;
-    if (!has_command(beside.path) || kind == Syntax::Kind::ambiguous || kind == Syntax::Kind::with ||
-        kind == Syntax::Kind::irregular) { // one command for two ports
+    if (!has_command(beside.path) || kind == Syntax::Kind::ambiguous) {
         return false;
+    }
+    if (kind == Syntax::Kind::irregular && beside.path.steps().back().index % 2 != 0) {
+        return false; // one command for two ports: the even one decides
     }
     return !is_number(field.form) || can_be_said(field, get_number(field, beside.at[1]));
 }
@@ -100,6 +118,7 @@ std::unique_ptr<GCfg> read_anew(const std::string& text)
 {
     auto configuration = blank_configuration();
     read_script(text, *configuration, [&](const Line& line) {
+        // Written where a reference to a management profile has no name.
         EXPECT_TRUE(line.kind != Line::Kind::refused || line.text == "profile management \"\"")
             << place_text(line.standing, *configuration) << ": " << line.text << ": " << line.reason;
     });

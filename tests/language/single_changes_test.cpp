@@ -105,7 +105,7 @@ std::vector<Member> told_together(const Member& member)
 /// What tells objects and entries from others: its change makes others of them.
 bool tells_objects(const Field& field)
 {
-    return field.syntax.kind == Kind::key || field.syntax.kind == Kind::existence ||
+    return field.syntax.kind == Kind::key || field.syntax.is_existence ||
            (field.name == "name" && field.form == Form::text);
 }
 

@@ -259,7 +259,7 @@ TEST_F(Apply, AmbiguousLinesAreTakenAndNamedOnceForEachText)
 TEST_F(Apply, ConfigurationInPlaceOfTheScriptIsAnError)
 {
     expect_error(run({"apply", "running.json", "running.json"}),
-                 "pondiff: running.json: expected a script, but this is a JSON document\n");
+                 "pondiff: running.json: expected a script, but this begins with '{' as a JSON document does\n");
     ASSERT_EQ(run({"pack", "running.json", "-o", "running.bin"}).status, 0);
     expect_error(run({"apply", "running.json", "running.bin", "-o", "after.json"}),
                  "pondiff: running.bin: expected a script, but this is a record\n");

@@ -102,11 +102,10 @@ struct One {
 
 bool same_field(const Field& field, const One& a, const One& b)
 {
-    const Syntax::Kind kind = field.syntax.kind;
-    if (kind == Syntax::Kind::existence) {
+    if (field.syntax.is_existence) {
         return a.there == b.there;
     }
-    return (kind != Syntax::Kind::key || a.there == b.there) &&
+    return (field.syntax.kind != Syntax::Kind::key || a.there == b.there) &&
            means_the_same(field, a.at, a.configuration, b.at, b.configuration);
 }
 

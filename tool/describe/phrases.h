@@ -92,7 +92,8 @@ constexpr Syntax key(const char* set = nullptr)
     return syntax_of(Syntax::Kind::key, set);
 }
 
-constexpr Syntax existence = syntax_of(Syntax::Kind::existence);
+/// What no command enters or names has a `no_command(...).telling_existence()` instead.
+constexpr Syntax existence = syntax_of(Syntax::Kind::existence).telling_existence();
 constexpr Syntax counter = syntax_of(Syntax::Kind::counter, nullptr, nullptr, "counts revisions");
 constexpr Syntax status = syntax_of(Syntax::Kind::counter, nullptr, nullptr, "shows a status");
 

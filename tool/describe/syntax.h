@@ -60,6 +60,7 @@ struct Syntax {
     bool shown_signed = false;    ///< an unsigned number that the CLI shows as a signed one
     bool zero_is_free = false;    ///< of a key: the entry is in use unless its key is 0, and 0 names none
     bool is_switch = false;       ///< a number of which only zero or not counts, whatever its form
+    bool is_existence = false;    ///< whether the object is there
     bool port_marker = false;     ///< a text whose marker %CHANNELID% the CLI shows as %GPON-PORT%
     std::uint8_t longest = 0;     ///< the most characters of a text where that is less than its array holds
 
@@ -115,6 +116,12 @@ struct Syntax {
     {
         Syntax syntax = *this;
         syntax.is_switch = true;
+        return syntax;
+    }
+    constexpr Syntax telling_existence() const
+    {
+        Syntax syntax = *this;
+        syntax.is_existence = true;
         return syntax;
     }
     constexpr Syntax marked() const

@@ -320,13 +320,40 @@ constexpr bool shows(std::string_view command, std::string_view member)
     return false;
 }
 
+/// Whether a line has a command, or says why it has none.
+constexpr bool has_command_or_reason(const Field& field)
+{
+    const Syntax& syntax = field.syntax;
+    const bool has_reason = syntax.reason != nullptr && syntax.reason[0] != '\0';
+    switch (syntax.kind) {
+    case Syntax::Kind::undescribed:
+        return field.form == Form::record;
+    case Syntax::Kind::says:
+        return syntax.set != nullptr || syntax.off != nullptr;
+    case Syntax::Kind::flags:
+        return syntax.set != nullptr && syntax.off != nullptr && syntax.flag_count != 0;
+    case Syntax::Kind::ambiguous:
+        return syntax.set != nullptr;
+    case Syntax::Kind::irregular:
+        return syntax.set != nullptr && syntax.read != nullptr;
+    case Syntax::Kind::with: // the reason is the other member
+    case Syntax::Kind::counter:
+    case Syntax::Kind::no_command:
+        return has_reason;
+    case Syntax::Kind::key:
+    case Syntax::Kind::existence:
+        return true;
+    }
+    return false;
+}
+
 /// Whether each line says how the CLI says its field, in commands that can be followed.
 template <std::size_t N>
 constexpr bool have_syntax(const Field (&table)[N])
 {
     for (const Field& field : table) {
         const Syntax& syntax = field.syntax;
-        if (field.form != Form::record && syntax.kind == Syntax::Kind::undescribed) {
+        if (!has_command_or_reason(field)) {
             return false;
         }
         const bool has_value = syntax.kind == Syntax::Kind::says && field.form != Form::boolean;
@@ -387,7 +414,7 @@ constexpr RecordOf<Struct>::RecordOf(const char* struct_name, const Field (&tabl
              is_brief(table),
              first_member(table, [](const Field& field) { return field.name == "name"; }),
              first_member(table, [](const Field& field) { return field.syntax.kind == Syntax::Kind::key; }),
-             first_member(table, [](const Field& field) { return field.syntax.kind == Syntax::Kind::existence; })}
+             first_member(table, [](const Field& field) { return field.syntax.is_existence; })}
 {
     static_assert(N <= MAX_FIELDS);
     static_assert(alignof(Struct) == 1, "packed");

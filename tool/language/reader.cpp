@@ -40,6 +40,7 @@ const Line& Device::take(std::string_view line)
     line_.text = line;
     line_.kind = Line::Kind::passed_over;
     line_.ambiguous = false;
+    line_.of_any_value = false;
     line_.names_only = false;
     line_.standing = standing_;
     line_.created = {};
@@ -115,6 +116,7 @@ bool Device::set(const Match& match)
         said_.resize(pattern.targets.size());
     }
     line_.ambiguous = pattern.does == Pattern::Does::nothing;
+    line_.of_any_value = line_.ambiguous && pattern.field->syntax.kind == Syntax::Kind::ambiguous;
     for (std::size_t i = 0; i < pattern.targets.size(); ++i) {
         const Target& target = pattern.targets[i];
         Said& said = said_[i];

@@ -54,10 +54,11 @@ struct Line {
     std::size_t number = 0; ///< from 1
     std::string_view text;  ///< without its line feed
     Kind kind = Kind::passed_over;
-    bool ambiguous = false;  ///< taken, but written for several values
-    Standing standing;       ///< where it was given
-    Object created;          ///< what entering or naming has created
-    bool names_only = false; ///< names an object that is known by its name, and says nothing else
+    bool ambiguous = false;    ///< taken, but written for several values
+    bool of_any_value = false; ///< ambiguous as no command says the value, whatever its words
+    Standing standing;         ///< where it was given
+    Object created;            ///< what entering or naming has created
+    bool names_only = false;   ///< names an object that is known by its name, and says nothing else
     Object removed;
     std::string reason; ///< Kind::refused: why
     std::vector<Setting> settings;

@@ -1,6 +1,7 @@
 #include "tool/language/text.h"
 
 #include "pon/command_file_generator.h"
+#include "pon/diff_builder.h"
 #include "tool/describe/records.h"
 #include "tool/language/objects.h"
 
@@ -64,13 +65,10 @@ void close_gaps(const Record& record, unsigned char* at)
 /// Whether a script is to show the field: what tells an object by its name has to stay, or the object is another one.
 bool is_to_differ(const Field& field, const Element& element)
 {
-    switch (field.syntax.kind) {
-    case Syntax::Kind::counter:
-    case Syntax::Kind::existence:
+    if (field.syntax.kind == Syntax::Kind::counter || field.syntax.is_existence) {
         return false;
-    default:
-        return element.told != Element::Told::by_name || field.name != "name";
     }
+    return element.told != Element::Told::by_name || field.name != "name";
 }
 
 /// Makes every field of what is in use another one than it is: all that has a command is then shown.
@@ -103,6 +101,20 @@ std::string taken(char* text)
     return text;
 }
 
+/// No operation shows the address of the auto-configuration server: its record diff is called for it.
+std::string commands_of_acs(GCfg& other, GCfg& wanted)
+{
+    int key[10] = {};
+    List<char> commands;
+    getdiff_GSystemAcsMgmtCfg(&other.system.network, &wanted.system.network, key, commands);
+    std::string text;
+    for (const ListElem<char>* node = commands.first; node != nullptr; node = node->next) {
+        const std::string command = taken(node->elem);
+        text += command.empty() ? "" : command + '\n';
+    }
+    return text;
+}
+
 } // namespace
 
 std::string text_of_commands(const GCfg& configuration)
@@ -115,6 +127,7 @@ std::string text_of_commands(const GCfg& configuration)
         throw std::bad_alloc();
     }
     std::string text = taken(GetDiff(other.get(), wanted.get()));
+    text += commands_of_acs(*other, *wanted);
     text += taken(GetRoutesDiffMemSafe(&other->system.services.routing, &wanted->system.services.routing, nullptr));
     finalize_diff();
     return text;

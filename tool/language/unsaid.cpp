@@ -24,6 +24,13 @@ bool is_only_switched_off(const Field& field)
     return field.syntax.kind == Kind::says && field.syntax.set == nullptr;
 }
 
+/// Whether the record's objects are there or not, and no command says it.
+bool is_there_unsaid(const Field& field)
+{
+    return field.record != nullptr && field.record->existence_member != nullptr &&
+           has_no_command(*field.record->existence_member);
+}
+
 /// The leaves of what is in use, but for those that mean nothing.
 std::size_t count_leaves(const Record& record, const unsigned char* at)
 {
@@ -79,7 +86,7 @@ bool Unsaid::is_unsaid(const Field& field, std::size_t index, const unsigned cha
     if (is_only_switched_off(field)) {
         return switched_off_.count(static_cast<std::size_t>(at - bytes_)) == 0;
     }
-    return has_no_command(field) || (index != 0 && has_command_for_first(field));
+    return has_no_command(field) || is_there_unsaid(field) || (index != 0 && has_command_for_first(field));
 }
 
 /// @param base  the same object in the other configuration; null where there is none
@@ -90,14 +97,13 @@ std::size_t Unsaid::fill_in(const Record& record, unsigned char* at, const unsig
         const Table table{&field, at + field.offset};
         const Table base_table{&field, const_cast<unsigned char*>(base != nullptr ? base + field.offset : nullptr)};
         for (std::size_t i = 0; i < field.count; ++i) {
-            const bool here = field.record == nullptr || in_use(*field.record, table.at(i));
             if (is_unsaid(field, i, table.at(i))) {
                 if (base != nullptr) {
                     std::memcpy(table.at(i), base_table.at(i), field.width);
-                } else if (here) {
+                } else {
                     left += field.record != nullptr ? count_leaves(*field.record, table.at(i)) : 1;
                 }
-            } else if (field.record != nullptr && here) {
+            } else if (field.record != nullptr && in_use(*field.record, table.at(i))) {
                 const auto* const same = base != nullptr ? same_element(table, i, base_table) : nullptr;
                 left += fill_in(*field.record, table.at(i), same);
             }

@@ -36,7 +36,7 @@ static constexpr Field redundancy_fields[] = {
 DESCRIBE(GPonOltGeneralRedundancyCfg, redundancy_record, redundancy_fields);
 
 static constexpr Field l3_dhcp_fields[] = {
-    boolean(FIELD(GPonOltGeneralL3DHCPCfg, exist), no_layer_3),
+    boolean(FIELD(GPonOltGeneralL3DHCPCfg, exist), no_layer_3.telling_existence()),
     boolean(FIELD(GPonOltGeneralL3DHCPCfg, relay_agent_enabled), no_layer_3),
     number(FIELD(GPonOltGeneralL3DHCPCfg, vid), no_layer_3),
     silent(text(FIELD(GPonOltGeneralL3DHCPCfg, circuit_id_format), no_layer_3)),

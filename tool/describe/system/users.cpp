@@ -5,7 +5,7 @@ namespace pondiff::tool {
 static constexpr Syntax membership = no_command("group memberships have no command");
 
 static constexpr Field user_group_fields[] = {
-    boolean(FIELD(GSystemUserGroup, exist), membership),
+    boolean(FIELD(GSystemUserGroup, exist), membership.telling_existence()),
     enumeration(FIELD(GSystemUserGroup, name), "GUsersGroup_enum", membership),
 };
 DESCRIBE(GSystemUserGroup, user_group_record, user_group_fields);
