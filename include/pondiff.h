@@ -2,8 +2,8 @@
  * pondiff: the CLI commands that turn one configuration of a GPON OLT into another.
  *
  * The plain entry points, for C and for every language that loads a library by symbol names. C++ callers have the
- * typed operations of <pon/command_file_generator.h>; each function here forwards to the one that it is named after,
- * with the one exception that GetSystemDiff_c states.
+ * typed operations of <pon/command_file_generator.h>; each function here forwards to the one of its name, except
+ * GetSystemDiff_c.
  *
  * Order of calls: initiate_diff_c, any number of operations on the same two configurations, finalize_diff_c.
  *
@@ -13,33 +13,33 @@
  *     free(script);
  *     finalize_diff_c();
  *
- * Signatures are shared with the device's software and stay as they are. So no parameter is const, although the library
- * only reads names of profiles and blocks, and configurations with the exception below: a C++ caller who has a literal
- * or a const record casts.
+ * The signatures are shared with the device's software and do not change. So no parameter is const, although the
+ * library only reads the names of profiles and blocks, and the configurations with the exception below: a C++ caller
+ * casts a literal or a const record.
  *
  * Ownership: the configurations belong to the caller, who keeps them unchanged while the session is open. They are only
  * read, with one exception: the selective-tunnel lists (pon.ont[].tunnel[].uvid) of the wanted configuration are sorted
- * in place where a diff shows them. Every text returned belongs to the caller, who releases it with free(); it is
+ * in place when a diff shows them. Every text returned belongs to the caller, who releases it with free(); it is
  * NUL-terminated, one command per line, each line closed by a line feed.
  *
  * Errors: an operation that cannot allocate its whole text returns NULL, never a shortened script; the
- * session stays usable and the script's position is as before. A null record, profile or block name selects nothing:
- * the text holds what the operation prints for two equal records.
+ * session stays usable and the position is as before. A null record, profile or block name selects nothing: the text
+ * is that of two equal records.
  *
- * Position: the library remembers in which CLI view the script stands, across operations. A session opens at the top
- * level; most operations return there, those that do not say so below, and the next one goes on from where they stop:
- * behind GetPonDiff_c, the way back to the top level is part of the next script, and is then closed by "commit" where
- * that script is.
+ * Position: the library remembers the CLI view that the script is in, across operations. A session starts at the top
+ * level. Most operations return there; those that do not say so below, and the next one continues where they end. After
+ * GetPonDiff_c, for instance, the next script begins with the navigation back to the top level.
  *
  * Switches, set by initiate_diff_c and kept until it is called again:
- *   need_all_cfg  non-zero: what is equal is rendered, too, as if it had changed. These are not, while they are equal:
- *                 - a user, a static route, a binding and a VLAN of the IP source guard;
+ *   need_all_cfg  non-zero: what is equal is rendered, too, as if it had changed. These are left out while they are
+ *                 equal:
+ *                 - users, static routes, the bindings and VLANs of the IP source guard;
  *                 - the names of VLAN profiles and terminal VLANs; the session limits of PPPoE profiles; the upstream
  *                   shapers and the storm control of shaping profiles; the services of ONT templates; the load average
  *                   and the temperatures of the alarms;
- *                 - an ONT, for GetDiff_c and GetPonDiff_c; for GetDiff_c, the management network, the services, the IP
- *                   source guard and the layout of serial numbers, each as a whole. Where common_type is 1, or where
- *                   one of them is asked for by itself, they are rendered.
+ *                 - unless common_type 1 or another operation selects them: ONTs, for GetDiff_c and GetPonDiff_c; and
+ *                   each as a whole, for GetDiff_c, the management network, the services, the IP source guard and the
+ *                   layout of serial numbers.
  *                 The VLAN and the groups of an equal multicast entry are rendered as the commands that remove them
  *                 ("no ... dynamic-entry").
  *   common_type   1: GetDiff_c shows the common records alone (CLI settings, alarms, layout of serial numbers, PON
@@ -77,9 +77,8 @@ extern "C" {
 const char* pondiff_version(void);
 
 /*
- * Opens a session over the configuration that the device runs and the one wanted; one that is still open is closed
- * first. Returns 0, or -1 when one of them is null or an allocation for the names of their objects fails: no session
- * is open then.
+ * Opens a session for the configuration that the device runs and the one wanted; a session that is still open is closed
+ * first. Returns 0, or -1 when one of them is null or an allocation fails: no session is open then.
  */
 int initiate_diff_c(GCfg_t* orig, GCfg_t* cfg, int need_all_cfg, int common_type);
 
@@ -87,18 +86,18 @@ int initiate_diff_c(GCfg_t* orig, GCfg_t* cfg, int need_all_cfg, int common_type
 int finalize_diff_c(void);
 
 /*
- * The whole difference, but for the static routes (GetBlockDiff_c "route"). Ends at the top level, closed by the line
- * "commit"; an empty text when there is nothing to say.
+ * The whole difference except the static routes (GetBlockDiff_c "route"). Ends at the top level, followed by the line
+ * "commit"; an empty text when there are no commands.
  */
 char* GetDiff_c(GCfg_t* orig, GCfg_t* cfg);
 
 /*
  * The PON part: network, OLT and ONT profiles, OLT, ONTs. No "commit"; the script stays in the view of its last
- * command. An empty text when there is nothing to say.
+ * command. An empty text when there are no commands.
  */
 char* GetPonDiff_c(GPonCfg_t* orig, GPonCfg_t* cfg);
 
-/* The PON part too, whatever the name says: callers rely on it. The system part has no plain symbol. */
+/* Despite its name, the PON part, too: callers rely on that. The system part has no plain symbol. */
 char* GetSystemDiff_c(GPonCfg_t* orig, GPonCfg_t* cfg);
 
 /* The OLT profiles, or the ONT profiles, all kinds. Ends at the top level; "commit" when there is any text. */

@@ -122,26 +122,12 @@ TEST_F(PartialBlocks, PrintAllForcesARecordThatIsEqual)
 {
     session.settle();
     session.open(1, 0);
-    EXPECT_EQ(block("management"), shown("hostname \"olt-17\"\n"
-                                         "management ip \"0.0.0.0\"\n"
-                                         "management mask \"0.0.0.0\"\n"
-                                         "management vid \"0\"\n"
-                                         "management gateway \"0.0.0.0\"\n"
-                                         "management cos \"0\"\n"
-                                         "management dscp \"0\"\n"));
-    EXPECT_EQ(block("config"), shown("no config autosave enable\n"
-                                     "config autosave hour \"3\"\n"));
-    EXPECT_EQ(block("backup"), shown("no backup on save\n"
-                                     "no backup on timer\n"
-                                     "backup timer period \"0\"\n"
-                                     "backup uri \"tftp://192.0.2.9/olt\"\n"));
-    EXPECT_EQ(block("ntp"), shown("no ip ntp enable\n"
-                                  "ip ntp ip \"0.0.0.0\"\n"
-                                  "ip ntp interval \"64\"\n"
-                                  "ip ntp timezone \"0\"\n"
-                                  "no ip ntp daylightsaving\n"));
-    EXPECT_EQ(block("source_guard"), shown("no ip source-guard enable\n"
-                                           "ip source-guard mode static\n"));
+    const auto subjects_of = [this](const char* name) { return subjects(block(name)); };
+    EXPECT_EQ(subjects_of("management"), (Elements{"configure", "hostname", "management", "exit", "commit"}));
+    EXPECT_EQ(subjects_of("config"), (Elements{"configure", "config", "exit", "commit"}));
+    EXPECT_EQ(subjects_of("backup"), (Elements{"configure", "backup", "exit", "commit"}));
+    EXPECT_EQ(subjects_of("ntp"), (Elements{"configure", "ip ntp", "exit", "commit"}));
+    EXPECT_EQ(subjects_of("source_guard"), (Elements{"configure", "ip source-guard", "exit", "commit"}));
 }
 
 TEST_F(PartialBlocks, PrintAllShowsNoEqualUserOrRoute)

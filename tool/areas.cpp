@@ -23,7 +23,7 @@ namespace {
         offsetof(GCfg, path), sizeof(GCfg::path)                                                                       \
     }
 
-/// A record that a block of settings shows; a block of several has a row for each.
+/// A record of a block of settings; a block of several records has a row for each.
 struct BlockRecord {
     const char* name; ///< of the block
     Range record;
@@ -35,7 +35,7 @@ constexpr BlockRecord block_records[] = {
 #undef BLOCK_RECORD
 };
 
-/// The names in a table, each once: rows of one name follow one another.
+/// The names in a table, each once. Rows of the same name are adjacent.
 template <class Table>
 std::vector<std::string_view> names_of(const Table& table)
 {
@@ -77,7 +77,7 @@ std::optional<int> ont_index(std::string_view text)
 /// An area as the user writes it.
 struct Request {
     std::string_view name;     ///< the whole of it
-    std::string_view argument; ///< what stands behind the first colon
+    std::string_view argument; ///< the part after the first colon
 };
 
 [[noreturn]] void reject(const Request& request, const std::string& reason)
@@ -216,13 +216,13 @@ std::vector<std::string> all_names()
     return {names.begin(), names.end()};
 }
 
-/// A row of the list below: an area by its name, or areas of one kind, which an argument tells apart.
+/// A row of the list below: one area, or the areas of one kind, selected by an argument.
 struct AreaKind {
     const char* name;
-    const char* argument; ///< what stands behind a colon; null where there is none
+    const char* argument; ///< the part after the colon; null if there is none
     const char* shows;
     Area (*area)(const Request& request);
-    std::vector<std::string> (*arguments)() = nullptr; ///< those that a shell completes
+    std::vector<std::string> (*arguments)() = nullptr; ///< candidates for completion
 };
 
 constexpr AreaKind area_kinds[] = {
@@ -253,7 +253,7 @@ std::string list_of_kinds()
     return enumerated({names.begin(), names.end()});
 }
 
-/// The names in lines of a manual page, indented.
+/// The names in indented lines of a help page.
 std::string wrapped(const std::vector<std::string_view>& names)
 {
     constexpr std::size_t width = 80;

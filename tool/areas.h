@@ -12,7 +12,7 @@ namespace pondiff::tool {
 
 /// A part of the configuration that can be compared by itself.
 struct Area {
-    Ranges records;                            ///< what it shows
+    Ranges records;                            ///< the records that it covers
     std::function<char*(GCfg&, GCfg&)> script; ///< the library's operation, for the records of the session
 };
 
@@ -30,7 +30,7 @@ std::string area_candidates();
 /// The blocks of settings that `area_named` knows.
 std::vector<std::string_view> names_of_blocks();
 
-/// The names of the areas and what they show, for a manual page: a line each, indented.
+/// The names of the areas and what they cover, for a help page: an indented line each.
 std::string list_of_areas();
 
 } // namespace pondiff::tool

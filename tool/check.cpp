@@ -24,7 +24,7 @@ namespace pondiff::tool {
 
 namespace {
 
-/// What a reference to a profile is when it refers to none.
+/// The value of a reference to no profile.
 constexpr std::int64_t none = -1;
 
 const Field* field_named(const Record& record, std::string_view name)
@@ -43,7 +43,7 @@ const Field* flag_of_existence(const Record& record)
 /// Whether a record is in use. One without a flag for it always is.
 bool in_use(const Record& record, const unsigned char* at)
 {
-    // An S-VLAN slot is in use by its S-VLAN: its flag alone is not asked.
+    // An S-VLAN slot is in use if it has an S-VLAN, whatever its flag.
     const Field* const svlan = field_named(record, "svlan");
     const Field* const flag = svlan ? svlan : flag_of_existence(record);
     return !flag || get_number(*flag, at + flag->offset) != 0;
@@ -63,22 +63,22 @@ std::string shown(const Field& field, std::string_view text)
     return is_utf8(text) ? visible(quote(text)) : "the text";
 }
 
-/// The terminal VLAN that a VLAN id or a priority stands for, or -1.
+/// The terminal VLAN that a VLAN id or a priority refers to, or -1.
 int terminal_vlan_of(Reference reference, std::int64_t number)
 {
     const std::int64_t index = reference == Reference::terminal_vlan_id ? -100 - number : number - 100;
     return index >= 0 && index < GCFG_TERMINAL_VLANS ? static_cast<int>(index) : -1;
 }
 
-/// What a 0 says.
+/// The meaning of a 0.
 enum class Zeros : bool {
-    left_out, ///< perhaps nothing: a document leaves it out
+    left_out, ///< perhaps none: documents leave it out
     meant,
 };
 
 class Inspection {
   public:
-    /// @param orig  what the device runs, where that is known: what is 0 in `cfg` alone has not been left out
+    /// @param orig  what the device runs, if known: a field that is 0 only in `cfg` has not been left out
     Inspection(const GCfg& cfg, const GCfg* orig, Zeros zeros) : cfg_(cfg), orig_(orig), zeros_(zeros)
     {
         look_at(gcfg_record, 0, Presence::there);
@@ -97,8 +97,8 @@ class Inspection {
         std::size_t offset;
     };
 
-    /// Whether an object is there. One that is not has no findings, unless removing it shows what its slot holds: no
-    /// command removes such an object.
+    /// Whether an object exists. One that does not has no findings, except where a script for its removal shows its
+    /// texts: no command removes such an object, so its changed fields are shown.
     enum class Presence { there, removable, absent };
     Presence presence_of(const Field& field, std::size_t offset, Presence outer) const
     {
@@ -157,17 +157,17 @@ void Inspection::look_at(const Record& record, std::size_t offset, Presence pres
     }
 }
 
-/// Looks for names that elements of an array share, where the CLI knows them by their names.
+/// Looks for elements of an array that share a name, if the CLI identifies them by name.
 void Inspection::look_at_names(const Field& array, std::size_t offset)
 {
     const Field* const name = field_named(*array.record, "name");
     if (!name || name->form != Form::text || !flag_of_existence(*array.record))
         return;
-    std::map<std::string_view, std::vector<std::size_t>> bearers;
+    std::map<std::string_view, std::vector<std::size_t>> indexes_by_name;
     for (std::size_t i = 0; i < array.count; ++i) {
         const unsigned char* const element = at(offset + i * array.width);
         if (in_use(*array.record, element))
-            bearers[text_at(*name, element + name->offset)].push_back(i);
+            indexes_by_name[text_at(*name, element + name->offset)].push_back(i);
     }
     const auto path_of = [this, &array](std::size_t index) {
         path_.push(array, index);
@@ -175,7 +175,7 @@ void Inspection::look_at_names(const Field& array, std::size_t offset)
         path_.pop();
         return path;
     };
-    for (const auto& [text, indexes] : bearers) {
+    for (const auto& [text, indexes] : indexes_by_name) {
         if (indexes.size() == 1)
             continue;
         for (const std::size_t i : indexes)
@@ -210,7 +210,7 @@ void Inspection::judge_end(const Place& place)
         add(place, shown(place.field, value) + fmt::format(" has no end within its {} bytes", place.field.width));
 }
 
-/// What would reach a script and do harm there, whether the object is there or not.
+/// What would reach a script and do harm there, whether the object exists or not.
 void Inspection::judge_text(const Place& place)
 {
     const bool is_text = place.field.form == Form::text || place.field.form == Form::secret;
@@ -260,7 +260,7 @@ bool Inspection::may_be_left_out(const Place& place) const
            !(orig_ && get_number(place.field, bytes_of(*orig_) + place.offset) != 0);
 }
 
-/// Whether a reference to a profile, in the same record, says that it is none.
+/// Whether another reference in the same record is -1, a reference to no profile.
 bool Inspection::refers_to_nothing(const Place& place) const
 {
     for (const Field& field : place.record)

@@ -5,15 +5,16 @@
 /// Values of a configuration that no script can carry, since a value is emitted as it is stored.
 ///
 /// - Texts that hold a quote, a control character, a character that does not show, or a placeholder, which the library
-///   replaces in any text that it emits. In a free slot of a profile they count, too, where removing the profile shows
-///   them. A text that no command shows may hold what it likes, but like the others it must have an end.
+///   replaces in any text that it emits. They are also reported in a free slot of a profile if the command that removes
+///   the profile shows them. A text that no command shows may hold anything, but like the others it must be terminated.
 /// - Names that two profiles of a kind, two terminal VLANs or two users share: the CLI cannot tell them apart.
-/// - References to a profile or a terminal VLAN that does not exist. A 0 is also what a document leaves out: one that
-///   refers to a profile counts only beside a -1, a reference to none, in the same record, whose writer knew how to say
-///   that. In a template the references count that its flags define, 0 or not.
+/// - References to a profile or a terminal VLAN that does not exist. A document may also have left out a 0. So a
+/// reference
+///   to profile 0 is reported only if another one in the same record is -1, which shows that its writer knew how to
+///   refer to none. In a template, the references are checked that its flags define, 0 or not.
 /// - Enumerations at a value for which the registry has no word; at 0 they may have been left out.
 ///
-/// What does not exist, such as a free slot, has no other findings.
+/// Objects that do not exist, such as a free slot, have no other findings.
 
 #include "gcfg/gcfg.h"
 
@@ -35,9 +36,9 @@ struct Finding {
 /// The findings in a configuration, in the order of its fields.
 std::vector<Finding> check(const GCfg& configuration);
 
-/// Those in `cfg`, as the change that turns `orig` into it brings them: what `orig` has in the same field, with the
-/// same value, is left out, and what the change sets to 0 has not been left out of a document.
-/// @param all  leaves nothing out
+/// The findings in `cfg` that a change from `orig` introduces: those that `orig` has in the same field, with the same
+/// value, are left out. A field that the change sets to 0 is not taken as left out of a document.
+/// @param all  include all findings in `cfg`
 std::vector<Finding> check_change(const GCfg& orig, const GCfg& cfg, bool all);
 
 } // namespace pondiff::tool

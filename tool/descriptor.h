@@ -7,7 +7,7 @@
 
 namespace pondiff::tool {
 
-/// An open file, or a negative number where it could not be opened.
+/// An open file, or a negative number if it could not be opened.
 class Descriptor {
   public:
     explicit Descriptor(int number) : number_(number) {}
@@ -21,7 +21,7 @@ class Descriptor {
     Descriptor& operator=(const Descriptor&) = delete;
 
     int number() const { return number_; }
-    /// Closes the file where the outcome matters: some file systems report only here that the disk is full.
+    /// Closes the file and returns whether that succeeded: some file systems report a full disk only here.
     bool close() { return ::close(std::exchange(number_, -1)) == 0; }
 
   private:

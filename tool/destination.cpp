@@ -39,7 +39,7 @@ bool begins_with(std::string_view text, std::string_view beginning)
 
 Destination destination_of(std::filesystem::path file)
 {
-    constexpr int most_links = 40; // The system follows no more.
+    constexpr int most_links = 40; // the limit of the system
     const std::filesystem::path name = file;
     std::string target(PATH_MAX, '\0');
     for (int links = 0; links <= most_links; ++links) {
@@ -49,7 +49,7 @@ Destination destination_of(std::filesystem::path file)
             const bool own = begins_with(folder, fmt::format("/proc/{}/", getpid()));
             return {file, true, own ? number : std::nullopt};
         }
-        // Asked of the system: on processors of 32 bits the C++ library takes a link of the far future for none.
+        // Not std::filesystem: on 32-bit processors it does not recognize links with a date after 2038.
         const ssize_t length = readlink(file.c_str(), target.data(), target.size());
         if (length < 0) {
             return {file, false, std::nullopt};

@@ -6,14 +6,14 @@
 
 namespace pondiff::tool {
 
-/// Where the name of a file leads.
+/// The file that a file name leads to.
 struct Destination {
     std::filesystem::path file;    ///< whether it exists or not; no symbolic link
-    bool of_a_process = false;     ///< It is what a process has open, such as /dev/stdout or /proc/17/fd/3.
-    std::optional<int> descriptor; ///< the number when this process has it open
+    bool of_a_process = false;     ///< an open file of a process, such as /dev/stdout or /proc/17/fd/3
+    std::optional<int> descriptor; ///< its number if it is open in this process
 };
 
-/// Follows the symbolic links of a name. One that leads in a circle stays what it is.
+/// Follows the symbolic links of a name. A link that leads to itself is returned as it is.
 Destination destination_of(std::filesystem::path file);
 
 } // namespace pondiff::tool

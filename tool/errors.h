@@ -6,7 +6,7 @@
 
 namespace pondiff::tool {
 
-/// What stops the program. `what()` says what happened and where; main reports it.
+/// An error that ends the program. `what()` says what happened and where; main reports it.
 struct Error : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
@@ -19,7 +19,7 @@ struct UsageError : Error {
 /// A file that could not be read or written: its name and the reason.
 struct FileError : Error {
     FileError(const std::string& file, const std::string& reason);
-    /// @param number  the system's number of the reason
+    /// @param number  an errno
     FileError(const std::string& file, int number);
 };
 

@@ -5,11 +5,11 @@ namespace pondiff::tool {
 
 /// Exit statuses of the program, as users of diff(1) expect them.
 enum class ExitStatus {
-    success = 0,        ///< of a diff: there is nothing to do
-    script_written = 1, ///< of a diff: the configurations differ
-    found = 1,          ///< of a check: there are findings
-    refused = 1,        ///< of an application: lines were refused
-    error = 2,          ///< what was asked could not be done
+    success = 0,        ///< diff: there is nothing to do
+    script_written = 1, ///< diff: a script was written
+    found = 1,          ///< check: there are findings
+    refused = 1,        ///< apply: lines were refused
+    error = 2,          ///< the command failed
 };
 
 } // namespace pondiff::tool

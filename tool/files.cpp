@@ -21,10 +21,10 @@ namespace pondiff::tool {
 
 namespace {
 
-/// Far above the largest document that a configuration makes.
+/// Far larger than any document of a configuration.
 constexpr std::size_t largest_file = std::size_t{64} << 20;
 
-/// The regular files that have been read. What is written must not take the place of any of them.
+/// The regular files that have been read. Output must not replace any of them.
 std::vector<std::pair<dev_t, ino_t>>& files_read()
 {
     static std::vector<std::pair<dev_t, ino_t>> files;
@@ -72,8 +72,8 @@ std::int64_t nanoseconds(const timespec& time)
     return std::int64_t{1'000'000'000} * time.tv_sec + time.tv_nsec;
 }
 
-/// The state of a file in which nothing has changed for longer than a tick of the clock that stamps changes: whatever
-/// changes now changes the stamp. Waits for it, though not for long when the file changes all the time.
+/// The state of a file that has not changed for longer than a tick of the clock for time stamps, so that any later
+/// change gets another time stamp. Waits for that, but not for long when the file changes all the time.
 struct stat settled_state(int descriptor, const std::string& name)
 {
     constexpr std::int64_t tick = 20'000'000;
@@ -98,7 +98,7 @@ bool same_content(const struct stat& before, const struct stat& after)
            nanoseconds(before.st_ctim) == nanoseconds(after.st_ctim);
 }
 
-/// Reads a file that nobody changes meanwhile.
+/// Reads a file and fails when it changes meanwhile.
 std::string read_unchanged(int descriptor, const std::string& name)
 {
     const struct stat before = settled_state(descriptor, name);
@@ -133,7 +133,7 @@ void write_to_descriptor(int descriptor, std::string_view content, const std::st
         throw FileError(name, errno);
 }
 
-/// @param existing  the file that is replaced, or a closed descriptor where there is none
+/// @param existing  the file to replace, or a closed descriptor if there is none
 void replace_file(const std::filesystem::path& file, const Descriptor& existing, const struct stat& status,
                   std::string_view content, const std::string& name)
 {

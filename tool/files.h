@@ -8,23 +8,23 @@
 
 namespace pondiff::tool {
 
-/// The file name that stands for standard input where a file is read and for standard output where one is written.
+/// The file name that stands for standard input when reading and for standard output when writing.
 inline constexpr char standard_stream[] = "-";
 
-/// What messages call a file that is read.
+/// The name of an input file in messages.
 std::string name_of_input(const std::string& file);
 
-/// All that a file holds.
+/// The whole content of a file.
 /// @throws FileError  when it cannot be read, or changes while it is read
 std::string read_file(const std::string& file);
 
 /// Makes `content` the whole content of a file, or fails and leaves the file as it was.
 ///
-/// The content goes to a new file, which then takes the place of the old one: nobody sees a half-written file. It has
-/// the owner, the group, the mode and the ACL of the old one; where it cannot, nothing is written. Where there was no
-/// file, its owner alone may read and write it. A symbolic link stays and what it points to is replaced.
+/// The content is written to a new file, which then replaces the old one: nobody sees a half-written file. It gets the
+/// owner, the group, the mode and the ACL of the old one; if that fails, nothing is written. If there was no file, only
+/// its owner may read and write it. A symbolic link is kept and the file it points to is replaced.
 ///
-/// What is no regular file, and what stands behind a descriptor such as /dev/stdout, is written to as it is.
+/// Anything but a regular file, and the target of a descriptor such as /dev/stdout, is written to in place.
 /// @throws FileError  also when the file is one that `read_file` has read
 void write_file(const std::string& file, std::string_view content);
 

@@ -19,7 +19,7 @@ namespace {
 
 enum class Kind { document, record, text };
 
-/// What an editor may put in front of a text.
+/// The text without the byte-order mark that an editor may have added.
 std::string_view without_mark(std::string_view content)
 {
     constexpr std::string_view byte_order_mark = "\xEF\xBB\xBF";
@@ -100,8 +100,8 @@ void Input::add_option(CLI::App& command)
 {
     command
         .add_option("--base", base_file_,
-                    "Take what a text of commands cannot say from FILE, a\n"
-                    "record or JSON document")
+                    "Take what no command can set from FILE, a record or JSON\n"
+                    "document, when reading a text of commands")
         ->option_text("FILE");
 }
 
@@ -135,7 +135,7 @@ std::pair<std::unique_ptr<GCfg>, std::unique_ptr<GCfg>> Input::configurations(co
 
 bool Input::read(const std::string& file, std::unique_ptr<GCfg>& configuration)
 {
-    base(); // a mistake in it is reported even when no text needs it
+    base(); // reports errors in it even when no text needs it
     const std::string name = name_of_input(file);
     const std::string content = read_file(file);
     switch (kind_of(content)) {

@@ -2,12 +2,13 @@
 #define TOOL_INPUT_H
 
 /// @file
-/// What files hold. The content decides, never the name:
+/// Reads input files. Their form is recognized by the content, never by the name:
 ///
-/// - What begins with '{', blanks aside, is a JSON document.
-/// - What has the record's exact size is a record. What meets both is a record when it holds a zero byte: no JSON text
-///   holds one, and hardly a configuration is without.
-/// - Anything else without a zero byte is a text of commands, if any of its lines is a command.
+/// - A file that begins with '{', after any blanks, is a JSON document.
+/// - A file of the record's exact size is a record. If both apply, it is a record when it holds a zero byte: no JSON
+/// text
+///   does, and nearly every record does.
+/// - Any other file without a zero byte is a text of commands, if any of its lines is a command.
 
 #include "gcfg/gcfg.h"
 #include "tool/errors.h"
@@ -24,13 +25,13 @@ class App;
 
 namespace pondiff::tool {
 
-/// What a command reads.
+/// The input files of a command.
 class Input {
   public:
-    /// Adds the option --base to a command. It concerns every text that the command reads as a configuration.
+    /// Adds the option --base to a command. It applies to every text that the command reads as a configuration.
     void add_option(CLI::App& command);
 
-    /// @param files  all that the command reads, but for the base
+    /// @param files  all input files of the command except the base
     /// @throws UsageError when two of them are standard input
     void check(std::initializer_list<std::string_view> files) const;
 
@@ -40,7 +41,8 @@ class Input {
     /// @throws InputError when it holds no configuration, or a document with a mistake in it
     std::unique_ptr<GCfg> configuration(const std::string& file);
 
-    /// The same of two files. What tells no slots, a text, has those of the other one.
+    /// The same for two files. A text says nothing about slots, so its objects get the slots that they have in the
+    /// other.
     std::pair<std::unique_ptr<GCfg>, std::unique_ptr<GCfg>> configurations(const std::string& first,
                                                                            const std::string& second);
 

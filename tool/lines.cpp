@@ -15,7 +15,7 @@ constexpr std::size_t most_shown = 20;
 
 std::string shown(std::string_view line)
 {
-    constexpr std::size_t longest = 200; // more than any command that a device has
+    constexpr std::size_t longest = 200; // longer than any command of a device
     return line.size() <= longest ? visible(line) : visible(line.substr(0, longest)) + "...";
 }
 

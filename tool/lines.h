@@ -10,20 +10,20 @@
 
 namespace pondiff::tool {
 
-/// What a device did not do of a text of commands: lines that it refused, and lines that it took without setting
-/// anything, as they are written for several values.
+/// The lines of a text of commands that have no effect on a device: lines that it refuses, and ambiguous lines, which
+/// it accepts although they set nothing, since they are written for several values.
 class LineReport {
   public:
-    /// @param file           the text's, as messages call it
+    /// @param file           the name of the text in messages
     /// @param configuration  what the device holds
     /// @param is_filled_in   whether what no text of commands can say is filled in: then no line is mentioned that is
     ///                       written whatever the value is
     LineReport(std::string file, const GCfg& configuration, bool is_filled_in = false);
 
-    /// Takes a line's outcome. The text that the line is in stays.
+    /// Adds the outcome of a line. The text that holds the line must outlive the report.
     void add(const Line& line);
 
-    /// Prints a message for each line refused, and one for each text that set nothing. Of many, the first ones.
+    /// Prints a message for each refused line and for each different ambiguous line; if there are many, for the first.
     void print() const;
 
     bool any_taken() const { return taken_; }

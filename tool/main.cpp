@@ -28,7 +28,8 @@ constexpr const Command* commands[] = {PONDIFF_COMMANDS(ADDRESS)};
 std::string details()
 {
     return fmt::format(R"(A configuration holds all settings of a device: its system settings and its PON.
-Every command reads it in any of three forms, which it knows by the content:
+Every command reads it in any of three forms and recognizes the form by the
+content:
 
   Record         The packed record that the device software keeps, exactly
                  {} bytes.
@@ -39,19 +40,19 @@ Every command reads it in any of three forms, which it knows by the content:
   Text           The commands that set it, line by line, such as a device
                  lists them. What no line says is unset.
 
-Where a file is named, - stands for standard input or output; a file of that
-name is ./-
+The file name - stands for standard input or output; write ./- for a file of
+that name.
 
 An output file is replaced as a whole or, after an error, left as it was. It
-keeps its owner, group, mode and ACL; where that is not possible, nothing is
-written. A new one is for its owner alone, since configurations and scripts hold
-passwords. Where a symbolic link is named, the file that it points to is
+keeps its owner, group, mode and ACL; if that is not possible, nothing is
+written. Only the owner may read and write a new file, since configurations and
+scripts hold passwords. For a symbolic link, the file that it points to is
 replaced. Devices, pipes and open files, such as /dev/stdout, are written to. An
-output file must not be an input as well.
+output file must not also be an input.
 
 Exit status:
   0  success; of "pondiff diff": there is nothing to do; of "pondiff check":
-     nothing was found; of "pondiff apply": every line was taken
+     nothing was found; of "pondiff apply": every line was accepted
   1  of "pondiff diff": a script was written; of "pondiff check": something was
      found; of "pondiff apply": lines were refused
   2  error; see standard error
@@ -67,16 +68,16 @@ Examples:
                        sizeof(GCfg));
 }
 
-/// What cannot be written, because the reader has gone or the file would grow too large, is an error like any other.
+/// A failed write, to a closed pipe or beyond the size limit of files, is then an error like any other.
 void ignore_signals_of_failed_writes()
 {
     std::signal(SIGPIPE, SIG_IGN);
     std::signal(SIGXFSZ, SIG_IGN);
 }
 
-/// Without memory the program ends at once. An exception would not do: streams swallow it and go on with less text. Set
-/// before the static objects of the command line library are made.
-[[gnu::constructor(101)]] void end_when_memory_ends()
+/// When an allocation fails the program ends at once. An exception is not enough: streams catch it and continue with
+/// less text. Set before the static objects of the command line library are constructed.
+[[gnu::constructor(101)]] void end_when_out_of_memory()
 {
     std::set_new_handler(end_out_of_memory);
 }
@@ -103,7 +104,7 @@ class Program {
     /// @throws Error
     ExitStatus run(int argc, char** argv);
 
-    /// Where the user finds help after a mistake on the command line.
+    /// Refers the user to the help after a mistake on the command line.
     std::string hint() const;
 
   private:

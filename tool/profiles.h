@@ -8,13 +8,13 @@
 
 namespace pondiff::tool {
 
-/// A kind of profile, templates among them: an array of the configuration whose elements the CLI knows by their names.
+/// A kind of profile, or the templates: an array of the configuration whose elements the CLI identifies by name.
 struct ProfileKind {
-    const char* name;    ///< what the CLI calls the kind
-    const char* command; ///< enters one; its name follows
-    const char* called;  ///< what messages call one of them
-    std::size_t offset;  ///< of the first in the configuration
-    std::size_t size;    ///< of one
+    const char* name;    ///< the name of the kind in the CLI
+    const char* command; ///< the command that enters one, up to its name
+    const char* called;  ///< what messages call one
+    std::size_t offset;  ///< of the first one in the configuration
+    std::size_t size;    ///< of each
     int slots;
     Reference reference; ///< of the fields that refer to one
 
@@ -24,7 +24,7 @@ struct ProfileKind {
 
 extern const ProfileKind profile_kinds[profile_kind_count];
 
-/// What a reference leads to; null for one to a terminal VLAN.
+/// The kind of profile that a reference refers to; null for a reference to a terminal VLAN.
 const ProfileKind* kind_of(Reference reference);
 
 } // namespace pondiff::tool

@@ -22,17 +22,17 @@ std::string folder_of(const std::filesystem::path& file)
     return file.has_parent_path() ? file.parent_path().string() : ".";
 }
 
-/// By which a file without a name can be given one.
+/// A path by which an unnamed file can be linked to a name.
 std::string path_of(int descriptor)
 {
     return fmt::format("/proc/self/fd/{}", descriptor);
 }
 
-/// The ACL of a file as the system hands it out, empty where it has none.
+/// The ACL of a file in the system's binary form, empty if it has none.
 /// @return nothing when it cannot be read
 std::optional<std::string> acl_of(int file)
 {
-    std::array<char, std::size_t{64} << 10> bytes; // the longest value that there is
+    std::array<char, std::size_t{64} << 10> bytes; // the longest possible value
     const ssize_t size = fgetxattr(file, acl_name, bytes.data(), bytes.size());
     if (size >= 0) {
         return std::string(bytes.data(), static_cast<std::size_t>(size));
@@ -43,7 +43,7 @@ std::optional<std::string> acl_of(int file)
     return std::nullopt;
 }
 
-/// Takes away an ACL, which a new file has where its folder prescribes one.
+/// Removes the ACL that a new file may have got from its folder's default.
 bool remove_acl(int file)
 {
     return fremovexattr(file, acl_name) == 0 || errno == ENODATA || errno == EOPNOTSUPP;
@@ -51,14 +51,14 @@ bool remove_acl(int file)
 
 } // namespace
 
-Replacement::SignalsHeld::SignalsHeld()
+Replacement::BlockedSignals::BlockedSignals()
 {
     sigset_t all;
     sigfillset(&all);
     sigprocmask(SIG_SETMASK, &all, &before_);
 }
 
-Replacement::SignalsHeld::~SignalsHeld()
+Replacement::BlockedSignals::~BlockedSignals()
 {
     sigprocmask(SIG_SETMASK, &before_, nullptr);
 }
@@ -80,14 +80,14 @@ bool Replacement::take_access_of(int original, const struct stat& status)
     if (!acl || fstat(file_.number(), &own) != 0) {
         return false;
     }
-    // Each id by itself, and only where it differs: who may change one may not be allowed to set both.
+    // Each id separately, and only if it differs: the user may be allowed to change one but not to set both.
     if (own.st_uid != status.st_uid && fchown(file_.number(), status.st_uid, static_cast<gid_t>(-1)) != 0) {
         return false;
     }
     if (own.st_gid != status.st_gid && fchown(file_.number(), static_cast<uid_t>(-1), status.st_gid) != 0) {
         return false;
     }
-    // Beside an ACL, the group's bits of the mode are its mask; the ACL sets the mode, too.
+    // With an ACL, the group bits of the mode are its mask. Setting the ACL sets the mode, too.
     if (!acl->empty()) {
         return fsetxattr(file_.number(), acl_name, acl->data(), acl->size(), 0) == 0;
     }
@@ -102,7 +102,7 @@ bool Replacement::take_place(bool existing)
     if (name_.empty() && !existing) {
         return linkat(AT_FDCWD, path_of(file_.number()).c_str(), AT_FDCWD, target_.c_str(), AT_SYMLINK_FOLLOW) == 0;
     }
-    if ((name_.empty() && !link_to_name_of_its_own()) || rename(name_.c_str(), target_.c_str()) != 0) {
+    if ((name_.empty() && !link_to_temporary_name()) || rename(name_.c_str(), target_.c_str()) != 0) {
         return false;
     }
     name_.clear();
@@ -126,7 +126,7 @@ int Replacement::open_file()
     return named;
 }
 
-bool Replacement::link_to_name_of_its_own()
+bool Replacement::link_to_temporary_name()
 {
     do {
         std::uint32_t number = 0;

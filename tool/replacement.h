@@ -10,53 +10,54 @@
 
 namespace pondiff::tool {
 
-/// A new file that takes the place of another one, or of none, once it is complete.
+/// A new file that replaces another one, if there is one, once it is complete.
 ///
-/// Until then it has no name, so that nothing is left of it when the program is killed. Two moments are an exception:
-/// - It takes the place of an existing file by way of a name of its own, .pondiff-*, since the system replaces names by
-///   names alone. Killed between these two steps, the program leaves the complete file under that name.
-/// - File systems that know no files without a name get one with such a name from the beginning.
+/// Until then it has no name, so that nothing is left of it when the program is killed, with two exceptions:
+/// - To replace an existing file it first gets a temporary name, .pondiff-*, since the system can only rename files
+/// that
+///   have one. Killed between these two steps, the program leaves the complete file under that name.
+/// - On file systems without unnamed files it has such a name from the beginning.
 ///
-/// Signals that can be held back wait until it is gone.
+/// Signals that can be blocked are blocked until it is gone.
 class Replacement {
   public:
-    /// An empty file that its owner alone may read and write, in the folder of `target`.
+    /// An empty file that only its owner may read and write, in the folder of `target`.
     explicit Replacement(std::filesystem::path target);
     ~Replacement();
     Replacement(const Replacement&) = delete;
     Replacement& operator=(const Replacement&) = delete;
 
-    /// Of the file, negative when it could not be made; errno says why.
+    /// Negative when the file could not be created; errno says why.
     int descriptor() const { return file_.number(); }
 
-    /// Gives it the owner, the group and the permissions of a file, its ACL included.
-    /// @return false when it cannot have all of them; errno says why
+    /// Gives it the owner, the group and the permissions of a file, including its ACL.
+    /// @return false when one of these cannot be set; errno says why
     bool take_access_of(int original, const struct stat& status);
 
-    /// Makes it the file at `target`, once its content is on the disk.
+    /// Makes it the file at `target`, after its content has been flushed to the disk.
     /// @param existing  whether there is one already
     /// @return false when that fails; errno says why
     bool take_place(bool existing);
 
   private:
-    /// Holds signals back, so that none ends the program while the file has a name of its own.
-    class SignalsHeld {
+    /// Blocks signals, so that none ends the program while the file has a temporary name.
+    class BlockedSignals {
       public:
-        SignalsHeld();
-        ~SignalsHeld();
-        SignalsHeld(const SignalsHeld&) = delete;
-        SignalsHeld& operator=(const SignalsHeld&) = delete;
+        BlockedSignals();
+        ~BlockedSignals();
+        BlockedSignals(const BlockedSignals&) = delete;
+        BlockedSignals& operator=(const BlockedSignals&) = delete;
 
       private:
         sigset_t before_;
     };
 
     int open_file();
-    bool link_to_name_of_its_own();
+    bool link_to_temporary_name();
 
-    SignalsHeld signals_held_;
+    BlockedSignals blocked_signals_;
     std::filesystem::path target_;
-    std::string name_; ///< of its own, while it has one
+    std::string name_; ///< the temporary name, while it has one
     Descriptor file_;
 };
 

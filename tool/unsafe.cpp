@@ -20,8 +20,8 @@ namespace pondiff::tool {
 
 namespace {
 
-/// A text is replaced by its mark: a character that no other text holds then, and a number. The shortest text field has
-/// room for it.
+/// Unsafe texts are replaced by marks: a character that no other text contains then, and a number. The shortest text
+/// field has room for one.
 constexpr char mark_begin = '\x02';
 constexpr std::size_t mark_size = 7;
 
@@ -48,7 +48,7 @@ bool holds_control_character(std::string_view text)
     });
 }
 
-/// All that is wrong with a text: " holds a quote and holds a control character".
+/// Everything that is wrong with a text: " holds a quote and holds a control character".
 std::string unsafe_part(std::string_view text)
 {
     return fmt::format("{}", fmt::join(unsafe_parts(text), " and"));
@@ -93,7 +93,7 @@ class Marks {
         unsigned char* const new_at = cfg_ + leaf.offset;
         const std::string old_text(text_in(leaf.field, old_at));
         const std::string new_text(text_in(leaf.field, new_at));
-        const bool same = old_text == new_text; // stays the same: it is no change
+        const bool same = old_text == new_text; // gets the same mark: it is no change
         if (is_marked(leaf.field, new_text)) {
             mark(leaf, new_at, new_text, true);
             if (same) {
@@ -132,7 +132,7 @@ std::string shown(const Replaced& replaced)
     return is_utf8(replaced.text) ? visible(quote(replaced.text)) : "the text";
 }
 
-/// Whether the character at `at` stands between quotes on its line.
+/// Whether the character at `at` is between quotes on its line.
 bool is_quoted(std::string_view script, std::size_t at)
 {
     const std::size_t line = script.rfind('\n', at) + 1; // 0 where there is none

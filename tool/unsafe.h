@@ -2,8 +2,8 @@
 #define TOOL_UNSAFE_H
 
 /// @file
-/// Texts that no script can carry: what they hold would end the command, begin another one or hide a line. What counts
-/// is what the script shows, wherever it comes from: names of the old configuration, values that both share, objects of
+/// Texts that no script can carry: they would end the command, begin another one or hide a line. Everything that the
+/// script shows is checked, wherever it comes from: names of the old configuration, values that both share, objects of
 /// other areas, words of the platform library.
 
 #include "gcfg/gcfg.h"
@@ -15,10 +15,10 @@
 
 namespace pondiff::tool {
 
-/// What a text holds that no command can show between quotes, such as " holds a quote", one for each kind.
+/// What no command can show between quotes, one entry for each kind, such as " holds a quote".
 std::vector<std::string> unsafe_parts(std::string_view text);
 
-/// A text that a script shows though it must not.
+/// An unsafe text in a script.
 struct UnsafeText {
     enum class Source { orig, cfg, platform };
     Source source;
@@ -26,7 +26,7 @@ struct UnsafeText {
     std::string text; ///< what is wrong; shows the value, unless it is a secret
 };
 
-/// The texts that the script of a change shows and must not.
+/// The unsafe texts in the script of a change.
 /// @param script  writes the script; it is called for copies of the configurations
 std::vector<UnsafeText> unsafe_texts(const GCfg& orig, const GCfg& cfg,
                                      const std::function<std::string(GCfg& orig, GCfg& cfg)>& script);

@@ -9,19 +9,19 @@ namespace pondiff::tool {
 
 namespace {
 
-/// Characters that terminals obey or that cannot be seen.
+/// Characters that control a terminal or are invisible.
 constexpr struct {
     std::uint32_t first;
     std::uint32_t last;
 } invisible[] = {
     {0x00, 0x1F},       // control characters
-    {0x7F, 0x9F},       // DEL, and the control characters of eight bits
+    {0x7F, 0x9F},       // DEL, and the the C1 control characters
     {0xAD, 0xAD},       // soft hyphen
     {0x061C, 0x061C},   // direction of Arabic letters
-    {0x180E, 0x180E},   // takes no room
-    {0x200B, 0x200F},   // take no room; direction
+    {0x180E, 0x180E},   // no width
+    {0x200B, 0x200F},   // no width; direction
     {0x2028, 0x202E},   // end of a line or paragraph; direction
-    {0x2060, 0x206F},   // take no room; direction
+    {0x2060, 0x206F},   // no width; direction
     {0xFEFF, 0xFEFF},   // byte-order mark
     {0xFFF9, 0xFFFB},   // annotations
     {0xE0000, 0xE007F}, // tags

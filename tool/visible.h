@@ -6,11 +6,11 @@
 
 namespace pondiff::tool {
 
-/// Whether a text shows on a terminal as it is: UTF-8 without control characters, and without the characters that turn
-/// the direction of the text, end a line or take no room.
+/// Whether a terminal shows a text as it is: UTF-8 without control characters, and without characters that change the
+/// direction of the text, end a line or have no width.
 bool is_visible(std::string_view text);
 
-/// The text with everything that would not show written out: \x1B for a byte, \u{202E} for a character.
+/// The text with everything else escaped: \x1B for a byte, \u{202E} for a character.
 std::string visible(std::string_view text);
 
 } // namespace pondiff::tool

@@ -1,7 +1,7 @@
 /* The whole configuration of the device, GCfg, and with it every configuration record.
  *
  * Packed, little-endian; the layout is shared with the device software and must not change. The sizes that are asserted
- * here and in the other headers are those that the device software counts on.
+ * here and in the other headers are those that the device software relies on.
  */
 #ifndef GCFG_GCFG_H
 #define GCFG_GCFG_H

@@ -17,7 +17,7 @@ typedef struct __attribute__((packed)) GPonOltGeneralActivationCfg {
     GBool_t alt_activation_mode;      /* on = ONT passwords are sent in traps */
 } GPonOltGeneralActivationCfg, GPonOltGeneralActivationCfg_t;
 
-/* OLT redundancy. Held for the device software; has no commands. */
+/* OLT redundancy. For the device software; has no commands. */
 typedef struct __attribute__((packed)) GPonOltGeneralRedundancyCfg {
     GBool_t enabled;
     GOltRedundandancyMode_t mode;
@@ -54,7 +54,7 @@ typedef struct __attribute__((packed)) GPonOltGeneralL3PPPoECfg {
     u32 port_block_time;       /* flood protection: blocking time */
 } GPonOltGeneralL3PPPoECfg, GPonOltGeneralL3PPPoECfg_t;
 
-/* Layer-3 DHCP and PPPoE settings. Held for the device software; has no commands. */
+/* Layer-3 DHCP and PPPoE settings. For the device software; has no commands. */
 typedef struct __attribute__((packed)) GPonOltGeneralL3Cfg {
     GPonOltGeneralL3DHCPCfg dhcp[GCFG_L3_DHCP_ENTRIES]; /* by VLAN */
     GPonOltGeneralL3PPPoECfg pppoe;
@@ -87,7 +87,7 @@ typedef struct __attribute__((packed)) GPonOntEncryption {
 } GPonOntEncryption, GPonOntEncryption_t;
 
 typedef struct __attribute__((packed)) GPonOltGeneralDBAShortCycle {
-    GEnabled_t gpon_port[GCFG_GPON_PORTS]; /* ports go in pairs 0-1 to 6-7: the even one's flag counts for both */
+    GEnabled_t gpon_port[GCFG_GPON_PORTS]; /* ports go in pairs 0-1 to 6-7: the flag of the even one applies to both */
 } GPonOltGeneralDBAShortCycle, GPonOltGeneralDBAShortCycle_t;
 
 typedef struct __attribute__((packed)) GPonOltGeneralCfg {

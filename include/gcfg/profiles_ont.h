@@ -183,7 +183,7 @@ typedef struct __attribute__((packed)) GPonUniPort {
     GPonMulticastClientPortSettings multicast_port_settings;
     GPonUniShaping shaper_downstream;
     GPonUniShaping shaper_upstream;
-    GPonUniPoE poe; /* held here, has no commands */
+    GPonUniPoE poe; /* has no commands here */
 } GPonUniPort, GPonUniPort_t;
 static_assert(sizeof(GPonUniPort) == 57, "size of GPonUniPort");
 

@@ -222,7 +222,7 @@ typedef struct __attribute__((packed)) GSystemConfigCfg {
     u8 autosave_hour;
 } GSystemConfigCfg, GSystemConfigCfg_t;
 
-/* Auto-configuration server. Held for the device software; has no commands. */
+/* Auto-configuration server. For the device software; has no commands. */
 typedef struct __attribute__((packed)) GSystemAcsCfg {
     u32 revision;
     GBool_t enabled;
@@ -249,7 +249,7 @@ typedef struct __attribute__((packed)) GSystemAuthNetCfg {
     GChar_t secret[256]; /* shared with the server */
 } GSystemAuthNetCfg, GSystemAuthNetCfg_t;
 
-/* User authentication. Held for the device software; has no commands. */
+/* User authentication. For the device software; has no commands. */
 typedef struct __attribute__((packed)) GSystemAuthCfg {
     u32 revision;
     GAuthType_t authtype;
@@ -260,7 +260,7 @@ typedef struct __attribute__((packed)) GSystemAuthCfg {
     GSystemAuthNetCfg radius_server;
 } GSystemAuthCfg, GSystemAuthCfg_t;
 
-/* Fans. Held for the device software; has no commands. */
+/* Fans. For the device software; has no commands. */
 typedef struct __attribute__((packed)) GSystemFanCfg {
     u32 revision;
     u8 speed_table[8]; /* by temperature step */

@@ -31,8 +31,8 @@ class Complete : public ProgramTest {
 constexpr char options_of_show[] = "-h\tPrint this help and exit\n"
                                    "--help\tPrint this help and exit\n"
                                    "--as\tForm to write: document, the default, text or record\n"
-                                   "--base\tTake what a text of commands cannot say from FILE, a record or "
-                                   "JSON document\n"
+                                   "--base\tTake what no command can set from FILE, a record or "
+                                   "JSON document, when reading a text of commands\n"
                                    "--full\tWrite the fields that are zero as well, in a document\n"
                                    "-o\tWrite to FILE instead of standard output\n"
                                    "--output\tWrite to FILE instead of standard output\n";
@@ -63,8 +63,8 @@ TEST_F(Complete, Options)
 
 TEST_F(Complete, DescriptionOfAnOptionIsItsFirstSentence)
 {
-    expect({"diff", "--co"}, "--common\tChoose how the common settings take part\n");
-    expect({"diff", "--al"}, "--all\tRender fields that are equal too, as if they had changed\n");
+    expect({"diff", "--co"}, "--common\tChoose what is compared\n");
+    expect({"diff", "--al"}, "--all\tRender what is equal, too, as if it had changed\n");
 }
 
 TEST_F(Complete, FilesAreLeftToTheShell)
@@ -116,8 +116,8 @@ TEST_F(Complete, KindsOfProfilesAndBlocks)
 TEST_F(Complete, ArgumentBehindAnEqualsSign)
 {
     expect({"diff", "--only=block:n"}, "--only=block:network\t\n--only=block:ntp\t\n");
-    expect({"diff", "--common="}, "--common=0\tthe whole tree\n"
-                                  "--common=1\tthe common settings alone\n"
+    expect({"diff", "--common="}, "--common=0\tthe whole configuration\n"
+                                  "--common=1\tthe common settings only\n"
                                   "--common=2\twith --all, the common settings and the default relay profiles too\n");
     expect({"diff", "--strict=x"}, "");
     expect({"diff", "--wrong=x"}, "");

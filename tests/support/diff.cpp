@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <sstream>
 
 std::string joined(const Elements& elements)
 {
@@ -10,6 +11,29 @@ std::string joined(const Elements& elements)
         if (!element.empty() && element[0] != '\n')
             text += element + '\n';
     return text;
+}
+
+Elements subjects(const std::string& script)
+{
+    Elements result;
+    std::istringstream lines(script);
+    for (std::string line; std::getline(lines, line);) {
+        std::istringstream words(line);
+        std::string subject;
+        words >> subject;
+        if (subject == "no") {
+            words >> subject;
+        }
+        if (subject == "ip") {
+            std::string service;
+            words >> service;
+            subject += " " + service;
+        }
+        if (result.empty() || result.back() != subject) {
+            result.push_back(subject);
+        }
+    }
+    return result;
 }
 
 std::string taken(char* text)

@@ -42,6 +42,10 @@ void put(unsigned char (&field)[N], std::initializer_list<int> bytes)
 /// feed, followed by one.
 std::string joined(const Elements& elements);
 
+/// What the commands of a script concern, each subject once in a row: the first word of a line, or two after "ip", "no"
+/// aside. For tests of containers: which records they show, whatever commands these have.
+Elements subjects(const std::string& script);
+
 /// Takes the text of an operation and frees it.
 std::string taken(char* text);
 

@@ -19,18 +19,18 @@ namespace {
 
 constexpr char details[] =
     R"(Follows a script line by line, as a device that runs RUNNING would, and writes
-what the device holds afterwards as a JSON document.
+the configuration of the device afterwards as a JSON document.
 
 A line that its view does not know, or whose value cannot be read, is refused:
-it changes nothing, and the next line is read. A message on standard error names
-the line, the view that it was given in and the reason. A line that is written
-for several values is taken, but sets nothing; a message names it, too.
+it changes nothing, and the next line is read. A message on standard error gives
+the line, its view and the reason. A line that is written for several values is
+accepted, but sets nothing; a message reports it, too.
 
-When a device has stopped within a script, --lines gives what it holds, and
-"pondiff diff" the commands that are still to be done: see the examples.
+When a device has stopped within a script, --lines gives its configuration, and
+"pondiff diff" the commands that remain: see the examples.
 
 Exit status:
-  0  every line was taken
+  0  every line was accepted
   1  lines were refused; the document was written
   2  error; see standard error. Nothing was written
 
@@ -65,10 +65,10 @@ std::function<ExitStatus()> setup(CLI::App& command)
     const auto arguments = std::make_shared<Arguments>();
     command.add_option("RUNNING", arguments->running, "Configuration that the device runs; - is standard input")
         ->required();
-    command.add_option("SCRIPT", arguments->script, "Commands to follow; - is standard input, but not for both")
+    command.add_option("SCRIPT", arguments->script, "Commands to apply; - is standard input, but not for both")
         ->required();
     arguments->input.add_option(command);
-    command.add_option("--lines", arguments->lines, "Follow the first N lines alone")
+    command.add_option("--lines", arguments->lines, "Apply only the first N lines")
         ->option_text("N")
         ->check(completed_by(""));
     command.add_option("-o,--output", arguments->output, "Write the document to FILE instead of standard output")
@@ -85,6 +85,6 @@ std::function<ExitStatus()> setup(CLI::App& command)
 
 } // namespace
 
-const Command apply_command{"apply", "Write what a device holds after a script", setup};
+const Command apply_command{"apply", "Write the configuration of a device after a script", setup};
 
 } // namespace pondiff::tool

@@ -22,18 +22,18 @@ and what is wrong. It does not show passwords and other secrets.
 
   quote              In a text: it ends the argument of the command early
   control character  In a text: what follows a line feed is another command
-  placeholder        In a text, such as $ID0: the script has a number there
+  placeholder        In a text, such as $ID0: the script shows a number instead
   no end             A text fills its field; there is no terminator
   shared name        Profiles of one kind, terminal VLANs or users share a name
   no such object     A reference to a profile or a terminal VLAN that does not
-                     exist: it has no command, or a wrong one
+                     exist: it has no command or a wrong one
   no word            The value of an enumeration has no word in the CLI
 
 Free slots are not checked. Quotes, control characters and placeholders are
 allowed in texts that no command shows. A zero is allowed where a document may
-just have left it out: an enumeration at 0, and a reference to profile 0 where
-slot 0 is free, unless another reference in the same record is -1, which stands
-for none. In a template, every reference that it defines is checked.
+simply have left the field out: an enumeration at 0, and a reference to profile
+0 when slot 0 is free, unless another reference in the same record is -1, which
+means none. In a template, every reference that it defines is checked.
 
 Exit status:
   0  nothing was found
@@ -68,7 +68,7 @@ ExitStatus run(Arguments& arguments)
 std::function<ExitStatus()> setup(CLI::App& command)
 {
     const auto arguments = std::make_shared<Arguments>();
-    command.add_option("FILE", arguments->configuration, "Configuration to look at; - is standard input")->required();
+    command.add_option("FILE", arguments->configuration, "Configuration to check; - is standard input")->required();
     arguments->input.add_option(command);
     command.add_flag("--strict", arguments->strict, "Exit with status 2 instead of 1 when anything is found");
     command.footer(details);
@@ -80,6 +80,6 @@ std::function<ExitStatus()> setup(CLI::App& command)
 
 } // namespace
 
-const Command check_command{"check", "Name the values of a configuration that no script can carry", setup};
+const Command check_command{"check", "Report the values of a configuration that no script can carry", setup};
 
 } // namespace pondiff::tool

@@ -15,14 +15,14 @@ namespace pondiff::tool {
 namespace {
 
 constexpr char details[] =
-    R"(Prints what completes the last one of the words that follow "pondiff" on a
-command line, which may be empty: a line for each candidate, with the word, a tab
-and what the word means. A line "files", without a tab, stands for names of files.
-The completions for bash and zsh call it.)";
+    R"(Prints the candidates for the last of the words after "pondiff" on a command
+line, which may be empty: a line each, with the word, a tab and its meaning. A
+line "files", without a tab, stands for file names. The completions for bash and
+zsh call it.)";
 
 constexpr char files[] = "files\n";
 
-/// Adds a candidate if it continues what has been typed. What stands behind a colon comes after the colon is typed.
+/// Adds a candidate if it continues what has been typed. The part after a colon is offered once the colon is typed.
 void add(std::string& candidates, const std::string& typed, const std::string& word, const std::string& meaning)
 {
     if (word.compare(0, typed.size(), typed) != 0) {
@@ -79,7 +79,7 @@ std::string options_for(CLI::App& command, const std::string& typed)
     return candidates;
 }
 
-/// @param before  what stands in the same word in front of the argument: nothing, or "--option="
+/// @param before  the part of the word before the argument: nothing, or "--option="
 std::string arguments_for(CLI::Option& option, const std::string& before, const std::string& typed)
 {
     const CLI::Validator* known = nullptr;
@@ -114,7 +114,7 @@ std::string candidates_for(CLI::App& program, const std::vector<std::string>& wo
 {
     const std::string typed = words.empty() ? "" : words.back();
     CLI::App* command = &program;
-    CLI::Option* option = nullptr; // which takes the next word
+    CLI::Option* option = nullptr; // takes the next word
     bool options_ended = false;
     for (std::size_t i = 0; i + 1 < words.size(); ++i) {
         const std::string& word = words[i];
@@ -135,10 +135,10 @@ std::string candidates_for(CLI::App& program, const std::vector<std::string>& wo
         return arguments_for(*option, "", typed);
     }
     if (!options_ended && !typed.empty() && typed.front() == '-') {
-        const std::size_t behind_name = typed.find('=');
-        option = option_with_argument(*command, typed.substr(0, behind_name));
-        return option && behind_name != typed.npos
-                   ? arguments_for(*option, typed.substr(0, behind_name + 1), typed.substr(behind_name + 1))
+        const std::size_t after_name = typed.find('=');
+        option = option_with_argument(*command, typed.substr(0, after_name));
+        return option && after_name != typed.npos
+                   ? arguments_for(*option, typed.substr(0, after_name + 1), typed.substr(after_name + 1))
                    : options_for(*command, typed);
     }
     if (command == &program) {
@@ -151,7 +151,8 @@ std::function<ExitStatus()> setup(CLI::App& command)
 {
     const auto words = std::make_shared<std::vector<std::string>>();
     command.add_option("WORD", *words,
-                       "The words behind \"pondiff\", the last one unfinished; -- stands in front of them");
+                       "The words after \"pondiff\", the last one unfinished; -- precedes\n"
+                       "them");
     command.group(""); // for the shells: not in the help
     command.footer(details);
     return [words, &program = *command.get_parent()] {

@@ -45,6 +45,18 @@ script can carry, such as a description with a quote in it, unless ORIG has the
 same value in the same field; with --all it names them all. For these values see
 "pondiff check --help".
 
+With --all, the script shows what is equal, too, as if it had changed. These are
+left out while they are equal: users, static routes, the bindings and VLANs of
+the IP source guard; names of VLAN profiles and terminal VLANs; session limits
+of PPPoE profiles; upstream shapers and the storm control of shaping profiles;
+services of ONT templates; the load average and the temperatures of the alarms;
+and, unless --only or --common 1 selects them, ONTs and, each as a whole, the
+management network, the services, the IP source guard and the layout of serial
+numbers. The alarms, the layout of serial numbers, the PON network and the OLT
+settings are shown with --common 1 or 2 only, the relay profiles of the OLT
+settings with --common 2 only. Equal VLANs and groups of multicast entries are
+shown as the commands that remove them.
+
 Areas that --only takes:
 )" + list_of_areas() +
            R"(
@@ -166,18 +178,18 @@ std::function<ExitStatus()> setup(CLI::App& command)
     command.add_option("CFG", arguments->cfg, "Configuration wanted; - is standard input, but not for both")
         ->required();
     command.add_flag("--all", arguments->all,
-                     "Render fields that are equal too, as if they had changed.\n"
-                     "ONTs and a system part that are equal as a whole stay out");
+                     "Render what is equal, too, as if it had changed. For what\n"
+                     "is left out while it is equal, see below");
     command
         .add_option("--common", arguments->common,
-                    "Choose how the common settings take part. They are CLI,\n"
-                    "alarms, layout of serial numbers, PON network, OLT and IP\n"
-                    "source guard. 1 compares them alone. With --all, 1 and 2\n"
-                    "render them too, and 2 also the default relay profiles.\n"
-                    "0, the default, and other numbers compare the whole tree")
+                    "Choose what is compared. 1 compares the common settings\n"
+                    "only: CLI, alarms, layout of serial numbers, PON network,\n"
+                    "OLT and IP source guard. 0, the default, 2 and other\n"
+                    "numbers compare everything; with --all, 1 and 2 show more\n"
+                    "of what is equal, see below")
         ->option_text("N")
-        ->check(completed_by("0\tthe whole tree\n"
-                             "1\tthe common settings alone\n"
+        ->check(completed_by("0\tthe whole configuration\n"
+                             "1\tthe common settings only\n"
                              "2\twith --all, the common settings and the default relay profiles too\n"));
     command
         .add_option("--only", arguments->only,

@@ -12,9 +12,9 @@ namespace pondiff::tool {
 namespace {
 
 constexpr char details[] =
-    R"(Makes the record of a configuration that is written as a JSON document or as a
-text of commands. What a document leaves out is zero. "pondiff show" is the way
-back; a record that was shown as a document and packed again is the same, byte
+    R"(Writes the packed record of a configuration, such as a JSON document or a text
+of commands. Fields that a document leaves out are zero. "pondiff show" does the
+reverse: a record that is shown as a document and packed again is the same, byte
 for byte.
 
 Exit status:
@@ -55,6 +55,6 @@ std::function<ExitStatus()> setup(CLI::App& command)
 
 } // namespace
 
-const Command pack_command{"pack", "Make a record of a configuration", setup};
+const Command pack_command{"pack", "Write the packed record of a configuration", setup};
 
 } // namespace pondiff::tool

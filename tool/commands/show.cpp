@@ -24,12 +24,12 @@ constexpr char details[] =
 reads each of them.
 
   document  A JSON document, which leaves out every field that is zero
-  text      The commands that set all of it, such as a device lists them.
-            A message counts the fields that it cannot carry
+  text      The commands that set all of it, as a device lists them. A
+            message counts the fields that they cannot set
   record    The packed record, as "pondiff pack" writes it
 
-What is shown may have any form: a document comes out as the same configuration
-in the usual order and notation.
+FILE may have any form, too: a document is rewritten in the usual order and
+notation.
 
 Exit status:
   0  the configuration was written
@@ -52,7 +52,7 @@ struct Arguments {
     bool full = false;
 };
 
-/// A text of commands carries what a device that reads it has afterwards.
+/// Warns of the fields that a device would not have after reading the text.
 std::string text_with_warning(const GCfg& configuration, const std::string& name)
 {
     std::string text = text_of_commands(configuration);

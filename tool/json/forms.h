@@ -2,8 +2,8 @@
 #define TOOL_JSON_FORMS_H
 
 /// @file
-/// The texts of values that are no numbers. Each form is appended to a text and parsed from one; parsing gives false,
-/// and leaves the bytes alone, when the text has not exactly that form. What is appended parses to the same bytes.
+/// Text forms of values. Each form can be appended to a text and parsed from one. Parsing returns false and leaves the
+/// bytes unchanged unless the text has exactly that form. Parsing what was appended gives the same bytes.
 
 #include <cstddef>
 #include <cstdint>
@@ -28,7 +28,7 @@ bool parse_mac(std::string_view text, unsigned char* bytes);
 void append_serial(std::string& out, const unsigned char* bytes);
 bool parse_serial(std::string_view text, unsigned char* bytes);
 
-/// Two hexadecimal digits a byte; parsed are exactly `count` bytes.
+/// Two hexadecimal digits for each byte; parses exactly `count` bytes.
 void append_hex(std::string& out, const unsigned char* bytes, std::size_t count);
 bool parse_hex(std::string_view text, unsigned char* bytes, std::size_t count);
 
@@ -36,13 +36,13 @@ bool parse_hex(std::string_view text, unsigned char* bytes, std::size_t count);
 void append_hexadecimal(std::string& out, std::uint32_t number, int digits);
 bool parse_hexadecimal(std::string_view text, std::uint64_t& number);
 
-/// Digits alone, without leading zeros. More than fit are the largest number.
+/// Digits only, without leading zeros. A number that is too large becomes the largest one.
 bool parse_decimal(std::string_view text, std::uint64_t& number);
 
 /// The text between quotes, with escapes; it is UTF-8.
 void append_quoted(std::string& out, std::string_view text);
 
-/// The same for a message: cut when it is long.
+/// The same for a message: shortened if it is long.
 std::string quote(std::string_view text);
 
 } // namespace pondiff::tool

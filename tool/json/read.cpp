@@ -353,7 +353,7 @@ void Reader::begin(Frame::Kind kind, const Place& place)
 
 // ------------------------------------------------------------------------------------------------------- flag sets
 
-/// The slots that a number or a text lists are set.
+/// Sets the slots that a number or a text lists.
 void Reader::take_slots(const Field& field, const JsonValue& value)
 {
     Frame& frame = frames_.back();
@@ -442,7 +442,7 @@ void read_json(std::string_view document, const std::string& file, GCfg& record)
 {
     std::memset(&record, 0, sizeof record);
     Reader reader(document, file, record);
-    // The parser takes it for the end, whatever follows.
+    // The parser would take it for the end of the document.
     const std::size_t zero_byte = document.find('\0');
     if (zero_byte != document.npos) {
         reader.fail_at(zero_byte, "a zero byte, which no JSON document holds");

@@ -125,7 +125,7 @@ std::string expected_words(const Field& field)
     return result.empty() ? range_of(field) : "one of " + result + "or " + range_of(field);
 }
 
-/// How many characters must be put in, left out or replaced to make one text of the other.
+/// How many characters must be inserted, deleted or replaced to turn one text into the other.
 std::size_t distance(std::string_view a, std::string_view b)
 {
     // The distances between the part of `a` that has been looked at and each part of `b` that begins it.

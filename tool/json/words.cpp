@@ -12,12 +12,12 @@ namespace pondiff::tool {
 
 namespace {
 
-/// The registry does not say which values have words. In every enumeration they lie below this one.
+/// The registry does not list its values. In every enumeration they are below this one.
 constexpr int values_asked = 1024;
-/// The registry is asked for 16 bits.
+/// The registry takes values of 16 bits.
 constexpr std::int64_t largest_value = 0xFFFF;
 
-/// Whether the registry's answer is a word. Some answer with a word of their own for what they do not know.
+/// Whether the registry returned a word. Some registries return a fixed text for an unknown value.
 bool is_word(const char* answer, const char* unknown)
 {
     return answer != nullptr && *answer != '\0' && (unknown == nullptr || std::strcmp(answer, unknown) != 0);

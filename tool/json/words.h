@@ -9,7 +9,7 @@
 
 namespace pondiff::tool {
 
-/// The registry's words for the values of an enumeration, as far as a word stands for one value.
+/// The registry's words for the values of an enumeration. A word of several values stands for the first of them.
 class Words {
   public:
     struct Word {
@@ -17,7 +17,7 @@ class Words {
         std::string_view word;
     };
 
-    /// What the registry is asked with: type and value give a word.
+    /// The registry: type and value give a word.
     using Lookup = const char* (*)(const char*, int);
 
     /// The words of the values up to `largest`.
@@ -35,10 +35,10 @@ class Words {
     std::vector<Word> words_; // by ascending value
 };
 
-/// Whether the registry has a word for the value of a field of Form::enumeration; the same word may stand for others.
+/// Whether the registry has a word for the value of a field of Form::enumeration, even if other values share it.
 bool has_word(const Field& field, std::int64_t value);
 
-/// The words for a field of Form::enumeration. The registry is asked once for each enumeration and width.
+/// The words for a field of Form::enumeration. They are looked up once for each enumeration and width.
 const Words& words_of(const Field& field);
 
 } // namespace pondiff::tool

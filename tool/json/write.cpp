@@ -18,7 +18,7 @@ class Writer {
   public:
     explicit Writer(bool full) : full_(full)
     {
-        // What a full configuration takes, so that the text does not move while it grows.
+        // Enough for a full configuration, so that the text is not moved while it grows.
         out_.reserve(full ? std::size_t{16} << 20 : 4096);
     }
 
