@@ -6,7 +6,7 @@ static constexpr Field pon_fields[] = {
     record(FIELD(GPonCfg, olt), olt_record),
     record(FIELD(GPonCfg, ont), ont_record,
            by_port_and_id.entered_by("interface ont <#>").removed_by("no interface ont <#>"), "ONTs"),
-    record(FIELD(GPonCfg, network), pon_network_record),
+    record(FIELD(GPonCfg, network), pon_network_record, risky(RiskKind::network)),
     record(FIELD(GPonCfg, profiles_olt), profiles_olt_record),
     record(FIELD(GPonCfg, profiles_ont), profiles_ont_record),
 };

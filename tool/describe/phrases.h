@@ -20,6 +20,15 @@
 ///     {member=1}    sets that member, and shows nothing
 ///     a | b         are two commands; one that does not show the line's own field sets it to 1
 ///
+/// A change that a person should see before any other, as it may lock people out or cut subscribers off, is marked on
+/// the line of its field, or of the record or array in which every change is one:
+///
+///     ipv4(FIELD(GSystemNetworkCfg, ipaddr), says("management ip <ipaddr>").risky(RiskKind::management)),
+///     boolean(FIELD(GPonOntCfg, enabled), on_off("no shutdown", "shutdown").risky_when_off(RiskKind::shutdown)),
+///     record(FIELD(GPonCfg, network), pon_network_record, risky(RiskKind::network)),
+///
+/// What people read of it is made of the command: "management ip changes from 192.0.2.1 to 192.0.2.2".
+///
 /// The commands are those of the view that the enclosing object is edited in (`Element::entered`), else of the
 /// configure view.
 
@@ -128,6 +137,12 @@ constexpr Element by_word(Vocabulary words)
 constexpr Element lead(const char* words)
 {
     return by_number.led_by(words);
+}
+
+/// A record, no array, in which every change is a risk.
+constexpr Element risky(RiskKind kind)
+{
+    return by_number.risky(kind);
 }
 
 } // namespace pondiff::tool

@@ -25,6 +25,31 @@ class Taking {
 /// The words of an enumeration whose words are not the registry's: null or an empty text for a value without a word.
 using Vocabulary = const char* (*)(int value);
 
+/// What a person who approves a change wants to see first, the most serious first.
+enum class RiskKind : std::uint8_t {
+    management, ///< the device gets another address, mask, gateway or VLAN to be reached at
+    access,     ///< a way in is switched off, no longer controlled, or open to others than before
+    user,       ///< a user of the highest privilege, as whom one is probably logged in, is changed or removed
+    removal,    ///< an object is removed
+    emptied,    ///< a profile gets the empty name: the CLI cannot name it any more
+    shutdown,   ///< a port or an ONT is shut down
+    serial,     ///< an ONT gets the serial number that another one still has
+    network,    ///< a setting that concerns every ONT
+};
+
+/// Which changes of a field, or in a record, are a risk.
+struct RiskMark {
+    enum class When : std::uint8_t {
+        never,
+        changed,
+        switched_off,
+        switched_on,
+        shared, ///< it gets the value that the field has in another object
+    };
+    When when = When::never;
+    RiskKind kind = RiskKind::network;
+};
+
 /// How the CLI says a field; made by the verbs of phrases.h.
 struct Syntax {
     enum class Kind : std::uint8_t {
@@ -63,6 +88,7 @@ struct Syntax {
     bool is_existence = false;    ///< whether the object is there
     bool port_marker = false;     ///< a text whose marker %CHANNELID% the CLI shows as %GPON-PORT%
     std::uint8_t longest = 0;     ///< the most characters of a text where that is less than its array holds
+    RiskMark risk;
 
     /// The off form, where it sets another value than 0.
     constexpr Syntax turned_off_by(const char* form, std::int64_t value) const
@@ -136,6 +162,19 @@ struct Syntax {
         syntax.longest = characters;
         return syntax;
     }
+    /// Every change is a risk.
+    constexpr Syntax risky(RiskKind of) const { return marked_as({RiskMark::When::changed, of}); }
+    constexpr Syntax risky_when_off(RiskKind of) const { return marked_as({RiskMark::When::switched_off, of}); }
+    constexpr Syntax risky_when_on(RiskKind of) const { return marked_as({RiskMark::When::switched_on, of}); }
+    constexpr Syntax risky_when_shared(RiskKind of) const { return marked_as({RiskMark::When::shared, of}); }
+
+  private:
+    constexpr Syntax marked_as(const RiskMark& mark) const
+    {
+        Syntax syntax = *this;
+        syntax.risk = mark;
+        return syntax;
+    }
 };
 
 /// What the line of a record, or of an array, adds to the commands of its fields: how an element is told from the
@@ -154,6 +193,7 @@ struct Element {
     const char* remove = nullptr; ///< removes an element
     const char* lead = nullptr;   ///< stands at <*>
     Vocabulary vocabulary = nullptr;
+    RiskMark risk;
 
     constexpr Element entered_by(const char* command) const
     {
@@ -171,6 +211,13 @@ struct Element {
     {
         Element element = *this;
         element.lead = words;
+        return element;
+    }
+    /// Every change of a field in it is a risk.
+    constexpr Element risky(RiskKind kind) const
+    {
+        Element element = *this;
+        element.risk = {RiskMark::When::changed, kind};
         return element;
     }
 };

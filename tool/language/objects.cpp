@@ -230,21 +230,30 @@ std::int64_t number_referring(const Field& field, std::size_t slot)
     }
 }
 
-void forget(GCfg& configuration, const Field& array, std::size_t slot,
-            const std::function<void(const Field& reference, std::size_t offset)>& visit)
+void for_each_reference_to(const GCfg& configuration, const Field& array, std::size_t slot,
+                           const std::function<void(const Field& reference, std::size_t offset)>& visit)
 {
     const auto places = referring().find(&array);
     if (places == referring().end()) {
         return;
     }
-    auto* const bytes = reinterpret_cast<unsigned char*>(&configuration);
+    const auto* const bytes = reinterpret_cast<const unsigned char*>(&configuration);
     for (const Referring& place : places->second) {
-        unsigned char* const at = bytes + place.offset;
-        if (slot_referred(*place.field, get_number(*place.field, at)) == static_cast<std::int64_t>(slot)) {
-            set_number(*place.field, at, none); // all bits set, where the number has no sign
+        const std::int64_t number = get_number(*place.field, bytes + place.offset);
+        if (slot_referred(*place.field, number) == static_cast<std::int64_t>(slot)) {
             visit(*place.field, place.offset);
         }
     }
+}
+
+void forget(GCfg& configuration, const Field& array, std::size_t slot,
+            const std::function<void(const Field& reference, std::size_t offset)>& visit)
+{
+    auto* const bytes = reinterpret_cast<unsigned char*>(&configuration);
+    for_each_reference_to(configuration, array, slot, [&](const Field& reference, std::size_t offset) {
+        set_number(reference, bytes + offset, none); // all bits set, where the number has no sign
+        visit(reference, offset);
+    });
 }
 
 } // namespace pondiff::tool

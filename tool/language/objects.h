@@ -67,6 +67,10 @@ bool is_of_vlan(const Field& field, std::int64_t number);
 std::int64_t slot_referred(const Field& field, std::int64_t number);
 std::int64_t number_referring(const Field& field, std::size_t slot);
 
+/// Calls `visit` for each reference to the object in a slot, with its offset, also for what free slots hold.
+void for_each_reference_to(const GCfg& configuration, const Field& array, std::size_t slot,
+                           const std::function<void(const Field& reference, std::size_t offset)>& visit);
+
 /// Makes every reference to the object in a slot a reference to none. Calls `visit` for each, with its offset.
 void forget(GCfg& configuration, const Field& array, std::size_t slot,
             const std::function<void(const Field& reference, std::size_t offset)>& visit);

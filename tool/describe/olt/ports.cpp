@@ -4,7 +4,7 @@ namespace pondiff::tool {
 
 static constexpr Field channel_fields[] = {
     number(FIELD(GPonOltChannelCfg, revision), counter),
-    boolean(FIELD(GPonOltChannelCfg, enabled), on_off(nullptr, "shutdown")),
+    boolean(FIELD(GPonOltChannelCfg, enabled), on_off(nullptr, "shutdown").risky_when_off(RiskKind::shutdown)),
     boolean(FIELD(GPonOltChannelCfg, fec_down), on_off("fec", nullptr)),
     number(FIELD(GPonOltChannelCfg, max_ont_count), no_command("the limit of ONTs has no command")),
     reference(FIELD(GPonOltChannelCfg, profile_olt_vlan), Reference::vlan, says("profile vlan <profile_olt_vlan>")),
@@ -21,7 +21,7 @@ static constexpr Field channel_fields[] = {
 DESCRIBE(GPonOltChannelCfg, channel_record, channel_fields);
 
 static constexpr Field olt_fields[] = {
-    record(FIELD(GPonOltCfg, general), olt_general_record),
+    record(FIELD(GPonOltCfg, general), olt_general_record, risky(RiskKind::network)),
     record(FIELD(GPonOltCfg, channel), channel_record, by_number.entered_by("interface gpon-port <#>"), "GPON ports"),
 };
 DESCRIBE(GPonOltCfg, olt_record, olt_fields);

@@ -42,7 +42,8 @@ static constexpr Field poe_fields[] = {
 DESCRIBE(GPonUniPoE, poe_record, poe_fields);
 
 static constexpr Field uni_port_fields[] = {
-    boolean(FIELD(GPonOntPort, shutdown), on_off("port <#> shutdown", "no port <#> shutdown")),
+    boolean(FIELD(GPonOntPort, shutdown),
+            on_off("port <#> shutdown", "no port <#> shutdown").risky_when_on(RiskKind::shutdown)),
     record(FIELD(GPonOntPort, poe), poe_record),
 };
 DESCRIBE(GPonOntPort, uni_port_record, uni_port_fields);
@@ -51,8 +52,8 @@ static constexpr Field ont_fields[] = {
     number(FIELD(GPonOntCfg, revision), counter),
     boolean(FIELD(GPonOntCfg, exist), existence),
     text(FIELD(GPonOntCfg, description), says("description <description>")),
-    boolean(FIELD(GPonOntCfg, enabled), on_off("no shutdown", "shutdown")),
-    serial(FIELD(GPonOntCfg, serial), says("serial <serial>")),
+    boolean(FIELD(GPonOntCfg, enabled), on_off("no shutdown", "shutdown").risky_when_off(RiskKind::shutdown)),
+    serial(FIELD(GPonOntCfg, serial), says("serial <serial>").risky_when_shared(RiskKind::serial)),
     secret(FIELD(GPonOntCfg, password), says("password <password>").at_most(10)),
     number(FIELD(GPonOntCfg, auth_method), no_command("the authentication method cannot be set")),
     boolean(FIELD(GPonOntCfg, fec_up), on_off("fec", "no fec")),

@@ -21,7 +21,8 @@ static constexpr Field http_fields[] = {
     number(FIELD(GSystemHttpCfg, revision), counter),
     boolean(FIELD(GSystemHttpCfg, enabled), not_its_list),
     boolean(FIELD(GSystemHttpCfg, access_control), not_its_list),
-    record(FIELD(GSystemHttpCfg, allow), numbered_allow_record, lead("http"), "allow-list entries"),
+    record(FIELD(GSystemHttpCfg, allow), numbered_allow_record, lead("http").risky(RiskKind::access),
+           "allow-list entries"),
 };
 DESCRIBE(GSystemHttpCfg, http_record, http_fields);
 
@@ -29,23 +30,30 @@ static constexpr Field https_fields[] = {
     number(FIELD(GSystemHttpsCfg, revision), counter),
     boolean(FIELD(GSystemHttpsCfg, enabled), not_its_list),
     boolean(FIELD(GSystemHttpsCfg, access_control), not_its_list),
-    record(FIELD(GSystemHttpsCfg, allow), numbered_allow_record, lead("https"), "allow-list entries"),
+    record(FIELD(GSystemHttpsCfg, allow), numbered_allow_record, lead("https").risky(RiskKind::access),
+           "allow-list entries"),
 };
 DESCRIBE(GSystemHttpsCfg, https_record, https_fields);
 
 static constexpr Field telnet_fields[] = {
     number(FIELD(GSystemTelnetCfg, revision), counter),
-    boolean(FIELD(GSystemTelnetCfg, enabled), on_off("ip telnet enable", "no ip telnet enable")),
-    boolean(FIELD(GSystemTelnetCfg, access_control), on_off("ip telnet access-control", "no ip telnet access-control")),
-    record(FIELD(GSystemTelnetCfg, allow), allow_record, by_key.led_by("ip telnet"), "allow-list entries"),
+    boolean(FIELD(GSystemTelnetCfg, enabled),
+            on_off("ip telnet enable", "no ip telnet enable").risky_when_off(RiskKind::access)),
+    boolean(FIELD(GSystemTelnetCfg, access_control),
+            on_off("ip telnet access-control", "no ip telnet access-control").risky_when_off(RiskKind::access)),
+    record(FIELD(GSystemTelnetCfg, allow), allow_record, by_key.led_by("ip telnet").risky(RiskKind::access),
+           "allow-list entries"),
 };
 DESCRIBE(GSystemTelnetCfg, telnet_record, telnet_fields);
 
 static constexpr Field ssh_fields[] = {
     number(FIELD(GSystemSshCfg, revision), counter),
-    boolean(FIELD(GSystemSshCfg, enabled), on_off("ip ssh enable", "no ip ssh enable")),
-    boolean(FIELD(GSystemSshCfg, access_control), on_off("ip ssh access-control", "no ip ssh access-control")),
-    record(FIELD(GSystemSshCfg, allow), allow_record, by_key.led_by("ip ssh"), "allow-list entries"),
+    boolean(FIELD(GSystemSshCfg, enabled),
+            on_off("ip ssh enable", "no ip ssh enable").risky_when_off(RiskKind::access)),
+    boolean(FIELD(GSystemSshCfg, access_control),
+            on_off("ip ssh access-control", "no ip ssh access-control").risky_when_off(RiskKind::access)),
+    record(FIELD(GSystemSshCfg, allow), allow_record, by_key.led_by("ip ssh").risky(RiskKind::access),
+           "allow-list entries"),
 };
 DESCRIBE(GSystemSshCfg, ssh_record, ssh_fields);
 

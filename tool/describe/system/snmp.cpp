@@ -20,9 +20,12 @@ DESCRIBE(GSystemSnmpAlias, alias_record, alias_fields);
 
 static constexpr Field snmp_fields[] = {
     number(FIELD(GSystemSnmpCfg, revision), counter),
-    boolean(FIELD(GSystemSnmpCfg, enabled), on_off("ip snmp enable", "no ip snmp enable")),
-    boolean(FIELD(GSystemSnmpCfg, access_control), on_off("ip snmp access-control", "no ip snmp access-control")),
-    record(FIELD(GSystemSnmpCfg, allow), allow_record, by_key.led_by("ip snmp"), "allow-list entries"),
+    boolean(FIELD(GSystemSnmpCfg, enabled),
+            on_off("ip snmp enable", "no ip snmp enable").risky_when_off(RiskKind::access)),
+    boolean(FIELD(GSystemSnmpCfg, access_control),
+            on_off("ip snmp access-control", "no ip snmp access-control").risky_when_off(RiskKind::access)),
+    record(FIELD(GSystemSnmpCfg, allow), allow_record, by_key.led_by("ip snmp").risky(RiskKind::access),
+           "allow-list entries"),
     record(FIELD(GSystemSnmpCfg, traps), trap_record, by_key, "traps"),
     enumeration(FIELD(GSystemSnmpCfg, version), "GSystemSNMPversion_enum",
                 says("ip snmp version <version>").words(getGSystemSNMPversion)),

@@ -14,8 +14,8 @@ static constexpr Field user_fields[] = {
     number(FIELD(GSystemUser, revision), counter),
     boolean(FIELD(GSystemUser, exist), existence),
     text(FIELD(GSystemUser, name), key()),
-    secret(FIELD(GSystemUser, password), says("user <#> crypted_password <password>")),
-    number(FIELD(GSystemUser, priority), says("user <#> privilege <priority>")),
+    secret(FIELD(GSystemUser, password), says("user <#> crypted_password <password>").risky(RiskKind::user)),
+    number(FIELD(GSystemUser, priority), says("user <#> privilege <priority>").risky(RiskKind::user)),
     record(FIELD(GSystemUser, group), user_group_record, "groups"),
 };
 DESCRIBE(GSystemUser, user_record, user_fields);
