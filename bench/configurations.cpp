@@ -21,7 +21,7 @@ using tool::Form;
 using tool::Leaf;
 using tool::Reference;
 
-/// Spreads what it is given over 64 bits (the finalizer of splitmix64).
+/// Spreads a number over 64 bits (the finalizer of splitmix64).
 std::uint64_t scatter(std::uint64_t value)
 {
     value += 0x9E3779B97F4A7C15U;
@@ -30,7 +30,7 @@ std::uint64_t scatter(std::uint64_t value)
     return value ^ (value >> 31U);
 }
 
-/// 1 to `last`, different from place to place.
+/// 1 to `last`, depending on the place.
 std::int64_t pick(std::uint64_t seed, std::int64_t last)
 {
     return 1 + static_cast<std::int64_t>(seed % static_cast<std::uint64_t>(last));
@@ -108,7 +108,7 @@ std::string text(const Field& field, std::uint64_t seed)
     if (field.form == Form::secret)
         return "Kq" + mark;
     std::string result = std::string(name) + '-' + mark;
-    if (result.size() >= field.width) // what tells texts apart stands at their end
+    if (result.size() >= field.width) // texts differ at their end
         result.erase(0, result.size() - (field.width - 1));
     return result;
 }

@@ -1,6 +1,6 @@
-/// What the library takes from the heap: `bench-heap` prints a line for each figure.
+/// The library's use of the heap: `bench-heap` prints a line for each figure.
 ///
-/// The functions below come before those of libc for the whole process, the library included.
+/// The functions below replace those of libc for the whole process, including the library.
 
 #include "bench/configurations.h"
 #include "pon/command_file_generator.h"
@@ -12,7 +12,7 @@
 #include <malloc.h>
 
 extern "C" {
-// libc's own, by the names under which it leaves them to others.
+// libc's own, by their internal names.
 void* __libc_malloc(std::size_t size);
 void* __libc_calloc(std::size_t count, std::size_t size);
 void* __libc_realloc(void* block, std::size_t size);
@@ -21,8 +21,8 @@ void __libc_free(void* block);
 
 namespace {
 
-/// Blocks count with the size that the heap gives them. One that is being grown counts once: its old and its new place
-/// are never added up.
+/// Blocks count with the size that the heap allocates. A block that is reallocated counts once, never both with its old
+/// and its new size.
 struct Heap {
     bool counting;
     std::size_t allocations;

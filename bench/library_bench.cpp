@@ -1,5 +1,5 @@
-/// Times of the library, with both records in memory. The two sides of every ratio are timed in turn in the same loop,
-/// so that whatever else the machine does meets both; the ratio of a run is the median of its pairs.
+/// Times of the library, with both records in memory. The two sides of every ratio are timed alternately in the same
+/// loop, so that other load affects both; the ratio of a run is the median of its pairs.
 
 #include "bench/configurations.h"
 #include "bench/print_lines.h"
@@ -48,7 +48,7 @@ class Session {
     GCfg* const cfg;
 };
 
-/// What was timed in turn: something, and the unit that it is measured in.
+/// Times taken alternately: of something, and of the unit that it is measured in.
 class Ratios {
   public:
     void add(double time, double unit)
@@ -170,7 +170,7 @@ void full_script(benchmark::State& state)
     script_lines(state, 0, 0);
 }
 
-/// With everything forced, which spares the comparing.
+/// With everything forced, which avoids the comparison.
 void full_dump(benchmark::State& state)
 {
     constexpr int with_common_and_profiles = 2;
@@ -195,7 +195,7 @@ double diff_time(const Configuration& orig, const Configuration& cfg, int runs)
            runs;
 }
 
-/// A line of a long script against a line of a short one. The comparing of what is equal is part of both and weighs
+/// A line of a long script against a line of a short one. Both include the comparison of equal records, which matters
 /// more in the short one, so the ratio is given without it, too.
 void long_and_short_script(benchmark::State& state)
 {

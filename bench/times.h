@@ -8,7 +8,7 @@
 
 namespace pondiff::bench {
 
-/// The processor time of this thread: what others take of the processor does not count.
+/// The processor time of this thread; other load does not count.
 inline double seconds()
 {
     constexpr double nano = 1e-9;
@@ -32,7 +32,7 @@ inline double median(std::vector<double> values)
     return *middle;
 }
 
-/// The median time of so many runs, after one that does not count.
+/// The median time of so many runs, after one that is not counted.
 template <class Function>
 double median_time(int runs, const Function& function)
 {

@@ -1,7 +1,6 @@
-# What the compiler and the linker can do against mistakes that nobody has found yet, for what is installed. Flags that
-# this compiler or processor lacks are left out. A sanitized build has stricter checks of its own, an unoptimised one
-# cannot have these. -fcf-protection is not among them: a file takes part in it only when all that it is linked of does,
-# and the objects that libc puts into each file do not.
+# Hardening by the compiler and the linker, for installed files. Flags that this compiler or processor does not support are
+# left out. A sanitized build has stricter checks of its own; an unoptimised one cannot have these. -fcf-protection is not
+# used: it has an effect only if every linked object has it, and the objects of libc that are linked into each file do not.
 option(PONDIFF_HARDEN "Build with the hardening that the compiler has" ON)
 add_library(pondiff-hardening INTERFACE)
 if(NOT PONDIFF_HARDEN OR PONDIFF_SANITIZE OR CMAKE_BUILD_TYPE STREQUAL "Debug")

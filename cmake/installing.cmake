@@ -1,8 +1,8 @@
-# What "cmake --install" puts where, for programs that find the library with CMake or pkg-config.
+# What "cmake --install" installs where, for programs that find the library with CMake or pkg-config.
 include(CMakePackageConfigHelpers)
 
 set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/pondiff)
-# The installed tree may stand anywhere and be moved: whatever refers to other files of it does so from its own place.
+# The installed tree can be moved: its files refer to one another by relative paths.
 file(RELATIVE_PATH libraries_from_programs /${CMAKE_INSTALL_BINDIR} /${CMAKE_INSTALL_LIBDIR})
 file(RELATIVE_PATH prefix_from_pkgconfig /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
 string(REGEX REPLACE "/$" "" prefix_from_pkgconfig ${prefix_from_pkgconfig})
@@ -13,9 +13,9 @@ foreach(folder CMAKE_INSTALL_BINDIR CMAKE_INSTALL_LIBDIR)
     endif()
 endforeach()
 
-# What is installed is built in folders that are to each other as those it is installed to, so that it finds its libraries
-# in both. Where CMake is to change a path while it installs, it links with that path and an empty one behind it, which
-# is the current folder. A library of the platform that is outside the loader's folders is found where it was linked.
+# The build folder has the layout of an installation, so that programs find their libraries in both with the same RPATH. If
+# CMake had to change the RPATH during installation, it would pad it with an empty path, which means the current folder. A
+# platform library outside the loader's search path is found where it was linked.
 function(build_as_installed target rpath)
     set_target_properties(${target} PROPERTIES
         RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/${CMAKE_INSTALL_BINDIR}

@@ -1,4 +1,4 @@
-# Run by cpack when the files of the packages are in place: makes them what Debian expects in a package.
+# Run by cpack after it has copied the files of the packages: changes them as Debian requires.
 find_program(shlibdeps dpkg-shlibdeps)
 if(NOT shlibdeps)
     message(FATAL_ERROR "Packages without dpkg-shlibdeps would name no dependencies. scripts/packages installs what is needed.")

@@ -1,5 +1,5 @@
-# Run by cpack when the packages are made: takes ldconfig's call out of the library's, which CPack always puts there. The
-# package has the trigger instead, for which ldconfig is called once, whatever else is installed.
+# Run by cpack when the packages are made: removes the call of ldconfig that CPack always adds to the library's scripts. The
+# package has a trigger instead, so that ldconfig runs only once, whatever else is installed.
 find_program(dpkg_deb dpkg-deb REQUIRED)
 foreach(package ${CPACK_PACKAGE_FILES})
     if(package MATCHES "/libpondiff1_[^/]*$")

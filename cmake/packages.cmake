@@ -13,7 +13,7 @@ if(TARGET pondiff)
     list(APPEND CPACK_COMPONENTS_ALL program)
 endif()
 
-# What every package has beside its files: who may do what with them, and what has changed.
+# What every package has besides its files: copyright and changelog.
 configure_file(packaging/changelog.in packaging/changelog @ONLY)
 foreach(component_package library:libpondiff1 development:libpondiff-dev program:pondiff)
     string(REPLACE ":" ";" component_package ${component_package})
@@ -30,7 +30,7 @@ file(WRITE ${packaging}/triggers "activate-noawait ldconfig\n")
 file(WRITE ${packaging}/shlibs
     "libpondiff-platform 1 libpondiff1 (>= ${PROJECT_VERSION})\nlibpondiff 1 libpondiff1 (>= ${PROJECT_VERSION})\n")
 set(CPACK_DEBIAN_LIBRARY_PACKAGE_CONTROL_EXTRA ${packaging}/triggers ${packaging}/shlibs)
-if(CMAKE_SIZEOF_VOID_P EQUAL 8 AND NOT PONDIFF_PLATFORM_LIBRARY) # others write some names of C++ in another way
+if(CMAKE_SIZEOF_VOID_P EQUAL 8 AND NOT PONDIFF_PLATFORM_LIBRARY) # other processors mangle some C++ names differently
     set(symbols "")
     foreach(library libpondiff-platform libpondiff)
         file(READ tests/exports/${library}.symbols names)

@@ -1,5 +1,4 @@
-/// What a comparison has found out is looked up, not read again: the tests change bytes behind its back to tell the two
-/// apart.
+/// A comparison looks its result up instead of reading again: the tests change bytes in between to see which it does.
 
 #include "pon/diff_builder/comparison.h"
 #include "tests/support/diff.h"
@@ -241,7 +240,7 @@ class SortedTunnels : public testing::Test {
 
 } // namespace
 
-/// The lists of one ONT become equal to the old ones while the walk is under way.
+/// The lists of one ONT become equal to the old ones during the walk.
 TEST_F(SortedTunnels, DoNotHideTheChangeOfTheNextOnt)
 {
     for (int ont = first; ont < last; ++ont) {

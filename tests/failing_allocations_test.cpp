@@ -1,6 +1,6 @@
-/// Every allocation of every exported operation fails, once and from then on: an operation that cannot give its text
-/// gives null, nothing is lost, and the session goes on. PONDIFF_FULL=1 in the environment does the same with the
-/// largest configuration.
+/// Every allocation of every exported operation fails, alone and with all later ones: the operation returns null,
+/// nothing leaks, and the session continues. PONDIFF_FULL=1 in the environment does the same with the largest
+/// configuration.
 
 #include "pon/DataToCommandsConvertor/text.h"
 #include "pon/blocks.h"
@@ -35,7 +35,7 @@ class FailingAllocations : public testing::Test {
     Session session;
 };
 
-/// Fails each allocation of `operation` in turn. Where it gives null, what comes behind it is as if it had not been
+/// Fails each allocation of `operation` in turn. When it returns null, later operations behave as if it had not been
 /// called.
 template <class Operation>
 void fail_each_allocation(const char* name, Operation operation)
@@ -176,7 +176,7 @@ TEST_F(FailingAllocations, OfASessionLeaveAnEmptyOneThatCanBeClosedAndOpenedAgai
     char vlan[] = "vlan";
     const auto vlans = [&] { return taken(GetProfileDiff(&session.orig->pon, &session.cfg->pon, vlan, 1)); };
     const std::string named = vlans();
-    // Most of them are alike, the names of 532 ONTs among them: few do for a start.
+    // Most of them are alike, such as the names of 532 ONTs: a few are enough by default.
     const int stride = exhaustive() ? 1 : 29;
     for (const Failing how : both_ways) {
         bool happened = true;
@@ -272,7 +272,7 @@ TEST(FailingAllocation, LeavesAScratchTextAsItWas)
 TEST(FailingAllocation, LeavesTheTextToWhoeverPushesIt)
 {
     List<char> list;
-    char kept[] = "kept"; // whoever frees them stops the test
+    char kept[] = "kept"; // freeing it aborts the test
     char pushed[] = "pushed";
     ASSERT_TRUE(list.push_back(pushed));
     for (const Failing how : both_ways) {

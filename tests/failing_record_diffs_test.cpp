@@ -1,4 +1,4 @@
-/// Every allocation of every record diff fails, once and from then on, while it fills a caller's list.
+/// Every allocation of every record diff fails, alone and with all later ones, while it fills a caller's list.
 
 #include "tests/support/allocation.h"
 #include "tests/support/diff.h"
@@ -9,7 +9,7 @@
 
 namespace {
 
-/// A command and the lines that led to the view in which it stands.
+/// A command and the lines that entered its view.
 using Placed = std::pair<std::string, std::string>;
 
 bool enters_a_view(const std::string& line)

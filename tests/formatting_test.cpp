@@ -6,7 +6,7 @@
 
 namespace {
 
-/// What becomes of a text in a block of its own length.
+/// The result for a text in a block of its own length.
 std::string replaced(const std::string& text, const char* needle, const char* replacement)
 {
     std::vector<char> bytes(text.c_str(), text.c_str() + text.size() + 1);

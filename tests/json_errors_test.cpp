@@ -269,7 +269,7 @@ TEST(JsonFlagSets, AreChecked)
 
 // ---------------------------------------------------------------------------------------------------------- syntax
 
-/// Where the error is; what is wrong there, the reader says in its own words, which differ from version to version.
+/// The place of the error; the parser's description of it differs from version to version.
 std::string place_of_error(const std::string& document)
 {
     const std::string error = error_of(document);

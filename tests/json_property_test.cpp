@@ -127,8 +127,8 @@ RC_GTEST_PROP(JsonProperty, PatchesAreKept, ())
     RC_ASSERT(lost(config, false) == "");
 }
 
-/// Whatever is done to a document, it is read or refused with a message that names the file, and a record that was
-/// read is kept.
+/// Any changed document is read or refused with a message that names the file, and a record that was read can be
+/// written and read again.
 RC_GTEST_PROP(JsonProperty, DamagedDocumentsAreReadOrRefused, (unsigned seed))
 {
     static const std::string sound = [] {

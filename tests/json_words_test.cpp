@@ -9,7 +9,7 @@ using pondiff::tool::Words;
 
 namespace {
 
-/// A registry as awkward as one can be.
+/// A registry with all oddities that are possible.
 const char* look_up(const char* type, int value)
 {
     static constexpr const char* words[] = {"same", "same", "", nullptr, "\xFF", "7", "say \"so\"", "?"};

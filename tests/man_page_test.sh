@@ -1,6 +1,5 @@
 #!/usr/bin/env bash
-# That the manual page is the one which scripts/man-page makes of the program's help, and that a reader of manual pages
-# finds nothing to complain about.
+# Checks that the manual page is what scripts/man-page generates from the program's help, and that man reports no errors.
 #   man_page_test.sh PROGRAM
 set -euo pipefail
 program=$1

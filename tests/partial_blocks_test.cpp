@@ -9,7 +9,7 @@ std::string shown(const std::string& commands)
     return "configure terminal\n" + commands + "exit\ncommit\n";
 }
 
-/// Something has changed in every block, and beside them.
+/// Something has changed in every block, and outside them.
 class PartialBlocks : public PartialDiff {
   protected:
     PartialBlocks()

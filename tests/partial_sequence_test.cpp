@@ -3,7 +3,7 @@
 
 namespace {
 
-/// Operations of one session, one behind the other.
+/// Several operations in one session.
 using PartialSequence = PartialDiff;
 
 TEST_F(PartialSequence, SystemPartLeavesTheScriptWhereTheNextOperationGoesOn)
@@ -109,7 +109,7 @@ TEST_F(PartialSequence, EachOperationBeginsWithABlankKey)
     EXPECT_EQ(system(), "exit\nhostname \"   0-   0-   0\"\n");
 }
 
-/// Records, sessions and memory that are not there.
+/// Null records, no session, failing allocations.
 using PartialOddity = PartialDiff;
 
 TEST_F(PartialOddity, NullRecordsGiveWhatEqualOnesGive)

@@ -5,7 +5,7 @@
 
 namespace {
 
-/// What an operation leaves behind.
+/// The result and the state after an operation.
 struct Outcome {
     std::string text;
     std::string view;
@@ -26,7 +26,7 @@ void PrintTo(const Outcome& outcome, std::ostream* out)
          << outcome.common;
 }
 
-/// Configurations that every operation has something to say about.
+/// Configurations for which every operation has commands.
 class PlainSymbols : public testing::Test {
   protected:
     PlainSymbols()
@@ -55,7 +55,7 @@ class PlainSymbols : public testing::Test {
         return {text, current_view.name, current_view.key[0], print_all, print_common};
     }
 
-    /// A twin and its target, from wherever the script may stand and whatever is forced.
+    /// An entry point and its target, in every view and with all switches.
     void expect_same(const Operation& twin, const Operation& target)
     {
         for (const int all : {0, 1}) {

@@ -174,7 +174,7 @@ struct Vocabulary {
     const char* words;
 };
 
-// Words are what users write and read in files and on command lines, so each is held here once more.
+// Users read and write the words in files and on command lines, so each is checked.
 const Vocabulary vocabularies[] = {
     {"GAlarmSeverity_enum", "0=indeterminate 1=critical 2=major 3=minor 4=warning 5=cleared"},
     {"GAlarmType_enum",

@@ -1,5 +1,5 @@
 /// What the record diffs of most profiles begin with: the name, the creation by entering the view, the description. The
-/// VLAN profile and the address table, which go their own ways, have tests of their own.
+/// VLAN profile and the address table, which differ, have tests of their own.
 
 #include "tests/profiles_ont/profile_test.h"
 

@@ -1,4 +1,4 @@
-/// What holds for every record diff, whatever its record. Where one differs by intention, a table gives the reason.
+/// Properties of every record diff. Where one differs intentionally, a table gives the reason.
 
 #include "tests/support/record_diffs.h"
 
@@ -12,7 +12,7 @@
 
 namespace {
 
-/// A record diff that does not keep to a rule, and why.
+/// A record diff that is an exception to a rule, and why.
 struct Exception {
     const char* name;
     const char* reason;

@@ -1,5 +1,4 @@
-/// The rows that record diffs are written with, by themselves: a record of a field of each type, and what each verb
-/// makes of it.
+/// The rows of record diffs: a record with a field of each type, and the text of each verb.
 
 #include "pon/command_file_generator/operation.h"
 #include "pon/diff_builder/rows.h"
@@ -32,8 +31,8 @@ struct __attribute__((packed)) Everything {
     char book[3000];
 };
 
-/// Two blank records and the elements that a row makes of them for somebody else's list, in the top level where the
-/// script stands already.
+/// Two blank records and the elements that a row appends to a caller's list, at the top level, so that the navigation
+/// is empty.
 class Rows : public testing::Test {
   protected:
     Rows() { current_view = {"root", {}}; }
@@ -51,7 +50,7 @@ class Rows : public testing::Test {
     int key[10] = {3, 44};
 };
 
-/// The row's command, behind a navigation that has nothing to do.
+/// The row's command, after an empty navigation.
 Elements command_of(const std::string& text)
 {
     return {"", text};

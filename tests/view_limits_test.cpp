@@ -1,4 +1,4 @@
-/// Navigation with arguments and names that no well-behaved caller gives.
+/// Navigation with unusual arguments and names.
 
 #include "pon/DataToCommandsConvertor/views.h"
 #include "tests/support/allocation.h"
@@ -127,7 +127,7 @@ TEST_F(ViewLimits, AViewIsEnteredByItsConstantAsByItsName)
     }
 }
 
-/// The device has ways from a view whose name is misspelt to ports and voice profiles. No script gets there.
+/// The device has transitions from a view with a misspelt name to ports and voice profiles. No script enters it.
 TEST_F(ViewLimits, FromTheMisspeltViewThereAreTwoWays)
 {
     const struct {

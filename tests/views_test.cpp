@@ -42,7 +42,7 @@ Way go(const std::string& view, int id = 0)
     return go_with(view, {id});
 }
 
-/// The text of a request that is served.
+/// The text of a successful request.
 std::string text(const std::string& view, int id = 0)
 {
     const Way way = go(view, id);

@@ -2,12 +2,10 @@
 
 #include "tool/describe/description.h"
 #include "tool/describe/records.h"
-#include "tool/json/forms.h"
 #include "tool/json/words.h"
+#include "tool/language/objects.h"
 #include "tool/profiles.h"
 #include "tool/unsafe.h"
-#include "tool/utf8.h"
-#include "tool/visible.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -40,27 +38,14 @@ const Field* flag_of_existence(const Record& record)
     return flag ? flag : field_named(record, "exists");
 }
 
-/// Whether a record is in use. One without a flag for it always is.
-bool in_use(const Record& record, const unsigned char* at)
+/// Whether a record holds an object. Unlike `in_use`, it takes a record without a flag for one that always does: its
+/// commands are emitted for every element, zeros or not.
+bool object_exists(const Record& record, const unsigned char* at)
 {
-    // An S-VLAN slot is in use if it has an S-VLAN, whatever its flag.
+    // An S-VLAN slot counts if it has an S-VLAN, whatever its flag.
     const Field* const svlan = field_named(record, "svlan");
     const Field* const flag = svlan ? svlan : flag_of_existence(record);
     return !flag || get_number(*flag, at + flag->offset) != 0;
-}
-
-std::string_view text_at(const Field& field, const unsigned char* at)
-{
-    const auto* const text = reinterpret_cast<const char*>(at);
-    return {text, strnlen(text, field.width)};
-}
-
-/// A text as messages show it.
-std::string shown(const Field& field, std::string_view text)
-{
-    if (field.form == Form::secret)
-        return "the value";
-    return is_utf8(text) ? visible(quote(text)) : "the text";
 }
 
 /// The terminal VLAN that a VLAN id or a priority refers to, or -1.
@@ -102,7 +87,7 @@ class Inspection {
     enum class Presence { there, removable, absent };
     Presence presence_of(const Field& field, std::size_t offset, Presence outer) const
     {
-        if (outer != Presence::there || in_use(*field.record, at(offset)))
+        if (outer != Presence::there || object_exists(*field.record, at(offset)))
             return outer;
         return field.element.enter && !field.element.remove ? Presence::removable : Presence::absent;
     }
@@ -166,8 +151,8 @@ void Inspection::look_at_names(const Field& array, std::size_t offset)
     std::map<std::string_view, std::vector<std::size_t>> indexes_by_name;
     for (std::size_t i = 0; i < array.count; ++i) {
         const unsigned char* const element = at(offset + i * array.width);
-        if (in_use(*array.record, element))
-            indexes_by_name[text_at(*name, element + name->offset)].push_back(i);
+        if (object_exists(*array.record, element))
+            indexes_by_name[text_in(*name, element + name->offset)].push_back(i);
     }
     const auto path_of = [this, &array](std::size_t index) {
         path_.push(array, index);
@@ -180,7 +165,7 @@ void Inspection::look_at_names(const Field& array, std::size_t offset)
             continue;
         for (const std::size_t i : indexes)
             findings_.push_back({offset + i * array.width + name->offset, name->width, path_of(i) + ".name",
-                                 fmt::format("{} is also the name of {}", shown(*name, text),
+                                 fmt::format("{} is also the name of {}", shown_text(*name, text),
                                              path_of(i == indexes[0] ? indexes[1] : indexes[0]))});
     }
 }
@@ -205,9 +190,9 @@ void Inspection::judge(const Place& place)
 
 void Inspection::judge_end(const Place& place)
 {
-    const std::string_view value = text_at(place.field, at(place.offset));
+    const std::string_view value = text_in(place.field, at(place.offset));
     if (value.size() == place.field.width)
-        add(place, shown(place.field, value) + fmt::format(" has no end within its {} bytes", place.field.width));
+        add(place, shown_text(place.field, value) + fmt::format(" has no end within its {} bytes", place.field.width));
 }
 
 /// What would reach a script and do harm there, whether the object exists or not.
@@ -216,9 +201,9 @@ void Inspection::judge_text(const Place& place)
     const bool is_text = place.field.form == Form::text || place.field.form == Form::secret;
     if (!is_text || place.field.silent)
         return;
-    const std::string_view value = text_at(place.field, at(place.offset));
+    const std::string_view value = text_in(place.field, at(place.offset));
     for (const std::string& part : unsafe_parts(value)) {
-        add(place, shown(place.field, value) + part);
+        add(place, shown_text(place.field, value) + part);
         findings_.back().unsafe = true;
     }
 }

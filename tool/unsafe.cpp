@@ -124,14 +124,6 @@ class Marks {
     std::vector<Replaced> replaced_;
 };
 
-std::string shown(const Replaced& replaced)
-{
-    if (replaced.field->form == Form::secret) {
-        return "the value";
-    }
-    return is_utf8(replaced.text) ? visible(quote(replaced.text)) : "the text";
-}
-
 /// Whether the character at `at` is between quotes on its line.
 bool is_quoted(std::string_view script, std::size_t at)
 {
@@ -166,10 +158,18 @@ std::set<std::string> unsafe_words(const GCfg& orig, const GCfg& cfg)
 UnsafeText finding(const Replaced& replaced, std::string_view what)
 {
     return {replaced.in_cfg ? UnsafeText::Source::cfg : UnsafeText::Source::orig, replaced.path,
-            shown(replaced) + std::string(what)};
+            shown_text(*replaced.field, replaced.text) + std::string(what)};
 }
 
 } // namespace
+
+std::string shown_text(const Field& field, std::string_view text)
+{
+    if (field.form == Form::secret) {
+        return "the value";
+    }
+    return is_utf8(text) ? visible(quote(text)) : "the text";
+}
 
 std::vector<std::string> unsafe_parts(std::string_view text)
 {

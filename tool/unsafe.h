@@ -7,6 +7,7 @@
 /// other areas, words of the platform library.
 
 #include "gcfg/gcfg.h"
+#include "tool/describe/description.h"
 
 #include <functional>
 #include <string>
@@ -14,6 +15,9 @@
 #include <vector>
 
 namespace pondiff::tool {
+
+/// The text of a field as messages show it; a secret is not shown.
+std::string shown_text(const Field& field, std::string_view text);
 
 /// What no command can show between quotes, one entry for each kind, such as " holds a quote".
 std::vector<std::string> unsafe_parts(std::string_view text);

@@ -1,12 +1,12 @@
 #!/usr/bin/env bash
-# Compares what a build folder holds with the lists kept beside this script.
+# Compares the files in a build folder with the lists next to this script.
 #
 #   exports_test.sh symbols BUILD    the exported symbols of both libraries, those listed and no other
 #   exports_test.sh needed BUILD     the libraries that they load: libc alone, and the platform's
 #   exports_test.sh abi BUILD        types, sizes and offsets behind the symbols; skipped without abidiff
 #   exports_test.sh layout BUILD     the fields of every struct in include/gcfg; the size that README.md gives
-#   exports_test.sh accept BUILD     builds, and makes what is built the new lists, for a change that is meant; BUILD is
-#                                    a release of g++. Renews the size in README.md and the manual page too.
+#   exports_test.sh accept BUILD     builds, and writes the lists from the result, after an intended change; BUILD is a
+#                                    release build by g++. Also updates the size in README.md and the manual page.
 set -euo pipefail
 here=$(cd "$(dirname "$0")" && pwd)
 source=$(cd "$here/../.." && pwd)
@@ -40,15 +40,15 @@ symbols() {
         done | sort
 }
 
-# Without the places in the source, which are no part of the ABI; a file is named from the top of the project, however
-# the compiler was started.
+# Without source locations, which are not part of the ABI; file names are relative to the top of the project, however the
+# compiler was started.
 abi() {
     abidw --no-corpus-path --no-comp-dir-path --no-show-locs --no-parameter-names --no-write-default-sizes \
         --type-id-style hash "$1" | sed "s|path='[./]*|path='./|"
 }
 
 say_how_to_accept() {
-    [ $? -eq 0 ] || echo "If that is meant: tests/exports/exports_test.sh accept build/release" >&2
+    [ $? -eq 0 ] || echo "If that is intended: tests/exports/exports_test.sh accept build/release" >&2
 }
 
 # The structs that the headers declare.
@@ -102,7 +102,7 @@ abi)
     ;;
 layout)
     diff -u --label include/gcfg --label "$layout" <(structs) <(records) || {
-        echo "A struct that is not part of GCfg has no description, so nothing holds its layout." >&2
+        echo "A struct that is not part of GCfg has no description, so its layout is not checked." >&2
         exit 1
     }
     trap say_how_to_accept EXIT

@@ -21,7 +21,7 @@ std::string type_of(const Field& field)
     return field.form == Form::text || field.form == Form::secret ? "char" : "u8";
 }
 
-/// Records that stand in others come before them, each once, in however many ways it is described.
+/// Records that are part of others come before them, each once, even if it has several descriptions.
 void print(const Record& record, std::set<std::string>& printed)
 {
     for (const Field& field : record) {

@@ -1,4 +1,4 @@
-/// Who may read and write a file that is replaced: whoever could before, and nobody else.
+/// A replaced file may be read and written by the same users as before, and nobody else.
 
 #include "tests/support/writing.h"
 

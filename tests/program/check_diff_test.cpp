@@ -1,5 +1,5 @@
-/// What a diff says of values: a script that shows an unsafe text is not printed, one with a value that means nothing
-/// to a device is.
+/// Warnings of a diff: a script that shows an unsafe text is not printed, one with a value that is meaningless to a
+/// device is.
 
 #include "tests/support/program.h"
 
@@ -31,7 +31,7 @@ class CheckDiff : public ProgramTest {
         for (const std::string& finding : findings)
             text += "pondiff: cfg.json: " + finding + "\n";
         const Outcome outcome = between(orig, cfg, more);
-        // Behind the findings may stand how many fields differ without a command.
+        // The findings may be followed by the number of fields that differ without a command.
         EXPECT_EQ(outcome.err.substr(0, text.size()), text) << cfg;
         EXPECT_EQ(outcome.err.find("cfg.json", text.size()), std::string::npos) << outcome.err;
         EXPECT_NE(outcome.status, 2);
@@ -46,7 +46,7 @@ std::string pon(const std::string& fields)
     return R"({"pon": {)" + fields + "}}";
 }
 
-/// What is said of a script that is not printed.
+/// The message about a script that is not printed.
 std::string refusal(const std::vector<std::string>& findings)
 {
     std::string text;

@@ -1,4 +1,4 @@
-/// What the program does when it gets no memory; failing_allocations_test.cpp does the same to the library.
+/// The program when allocations fail; failing_allocations_test.cpp tests the library.
 
 #include "tests/support/program.h"
 
@@ -20,7 +20,7 @@ void fail_each(const Memory& test, const Arguments& arguments, const std::string
     const Outcome complete = test.run(arguments);
     constexpr int most = 100000;
     int number = 1;
-    for (; number < most; number += 1 + number / 16) { // the first ones all, then fewer and fewer
+    for (; number < most; number += 1 + number / 16) { // all of the first ones, then fewer
         const Outcome outcome = test.run(
             arguments, with_other_library("TEST_FAILING_ALLOCATION=" + std::to_string(number), PONDIFF_FAILING_MEMORY));
         if (outcome.out == complete.out && outcome.status == complete.status)

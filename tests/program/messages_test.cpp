@@ -1,4 +1,4 @@
-/// Messages, whatever is in the names, arguments and values that they quote; visible_test.cpp has all characters.
+/// Messages escape what they quote: file names, arguments and values; visible_test.cpp tests the characters.
 
 #include "tests/support/program.h"
 
@@ -85,7 +85,7 @@ TEST_F(Messages, LinesOfScriptsAreWrittenOut)
                      "\\u{9B}2J\n");
 }
 
-/// Whatever a text is: messages are printable ASCII when the rest of what they quote is.
+/// Everything that the messages of the test quote is ASCII, except the hostile text itself.
 void expect_printable(const std::string& message)
 {
     EXPECT_NE(message, "");

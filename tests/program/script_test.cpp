@@ -1,4 +1,4 @@
-/// The judgement on declarations of terminal VLANs; program_test.cpp has that on moves from view to view.
+/// Whether declarations of terminal VLANs change anything; program_test.cpp tests moves between views.
 
 #include "tool/script.h"
 

@@ -1,4 +1,4 @@
-/// Texts that reach a script and must not: whatever the script shows is looked at, and nothing else.
+/// Unsafe texts in scripts: everything that the script shows is checked, and nothing else.
 
 #include "pon/command_file_generator.h"
 #include "tool/unsafe.h"

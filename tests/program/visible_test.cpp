@@ -1,4 +1,4 @@
-/// What messages and previews show of a text: nothing that a terminal obeys, nothing that cannot be seen.
+/// Texts in messages and previews: no control characters, nothing invisible.
 
 #include "tool/visible.h"
 

@@ -101,7 +101,7 @@ TEST_F(Writing, FileOfTheFarFutureIsReplaced)
     EXPECT_EQ(read("target"), script);
 }
 
-// As with the redirection of a shell: no old script is left that somebody could take for the new one.
+// As with the redirection of a shell: no old script is left that could be mistaken for the new one.
 TEST_F(Writing, NothingToDoMakesTheFileEmpty)
 {
     EXPECT_EQ(run({"diff", "orig.json", "orig.json", "-o", "script"}).status, 0);
@@ -290,7 +290,7 @@ TEST_F(Writing, StandardOutputThatIsClosed)
                  "pondiff: standard output: Bad file descriptor\n");
     EXPECT_EQ(write_script_to("script", surroundings).status, 1);
     EXPECT_EQ(read("script"), script);
-    // With nothing to print nothing is missing.
+    // With nothing to print, a full disk is no error.
     EXPECT_EQ(run({"diff", "orig.json", "orig.json"}, surroundings).status, 0);
 }
 

@@ -2,9 +2,9 @@
 #define TESTS_SUPPORT_ALLOCATION_H
 
 /// @file
-/// Allocations that fail on demand, are counted or looked at. The test program is linked so that calls of malloc,
-/// calloc and realloc, the library's own among them, come here first. Only one of these lives at a time, and for as
-/// long as the call that it is meant for: what the test itself allocates meanwhile counts too.
+/// Allocations that fail on demand, are counted or observed. The test program is linked so that calls of malloc,
+/// calloc and realloc, the library's own among them, come here first. Use only one of these at a time, around the call
+/// to test: allocations of the test itself count, too.
 
 #include <climits>
 
@@ -30,7 +30,7 @@ class FailingAllocation {
     FailingAllocation(const FailingAllocation&) = delete;
     FailingAllocation& operator=(const FailingAllocation&) = delete;
 
-    /// True when it came to that.
+    /// True when that allocation was requested.
     bool happened() const;
 
   private:

@@ -2,7 +2,7 @@
 #define TESTS_SUPPORT_DIFF_H
 
 /// @file
-/// What the tests of record diffs are written with: two blank records, change a field, compare the whole text.
+/// Helpers for the tests of record diffs: two blank records, change a field, compare the whole text.
 ///
 ///     Diff ntp{getdiff_GSystemNtpCfg};
 ///     put(ntp.after.ntpserver, {192, 0, 2, 1});
@@ -49,8 +49,7 @@ Elements subjects(const std::string& script);
 /// Takes the text of an operation and frees it.
 std::string taken(char* text);
 
-/// A record diff for records of one kind, which it takes untyped; the prefix that some take is theirs already. Gives
-/// what the record diff returns.
+/// A record diff with untyped records; a prefix parameter is already bound. Returns what the record diff returns.
 using AnyDiff = std::function<int(void* lhs, void* rhs, int* key, List<char>& out)>;
 
 template <class Result, class Record>
@@ -75,7 +74,7 @@ class DiffRun {
   public:
     int all = 0;               ///< print_all during the run
     int common = 0;            ///< print_common during the run
-    const char* view = "root"; ///< where the script stands before
+    const char* view = "root"; ///< the view before the run
     int view_key = 0;
     int key[10] = {}; ///< before the run, and after it as the diff left it
     bool may_sort = false;

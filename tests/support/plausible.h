@@ -2,7 +2,7 @@
 #define TESTS_SUPPORT_PLAUSIBLE_H
 
 /// @file
-/// A configuration to begin with, made by the description of the records.
+/// A configuration for tests, generated from the description of the records.
 
 #include "tool/describe/description.h"
 #include "tool/describe/records.h"

@@ -2,7 +2,7 @@
 #define TESTS_SUPPORT_PROGRAM_H
 
 /// @file
-/// What the tests of the program are written with: a folder of its own for each test, in which the built program runs.
+/// Base of the tests of the program: each test has its own folder, in which it runs the program.
 
 #include "gcfg/gcfg.h"
 
@@ -26,14 +26,14 @@
 
 using Arguments = std::vector<std::string>;
 
-/// What the program left behind.
+/// The result of a run.
 struct Outcome {
     int status; ///< the exit status, or the signal that ended the program, negated
     std::string out;
     std::string err;
 };
 
-/// The surroundings of one run.
+/// The environment of a run.
 struct Surroundings {
     std::string input{};                    ///< comes through a pipe
     std::string output_file{};              ///< where standard output goes; nowhere else than to `Outcome` when empty
@@ -47,7 +47,7 @@ struct Surroundings {
     rlim_t largest_file = RLIM_INFINITY;
 };
 
-/// A library stands in front of the real ones; it reads `variable`, "NAME=value".
+/// Preloads a library before the real ones; it reads `variable`, "NAME=value".
 inline Surroundings with_other_library(const std::string& variable, const std::string& library = PONDIFF_OTHER_LIBRARY)
 {
     const char* const options = std::getenv("ASAN_OPTIONS");
