@@ -59,14 +59,15 @@ void Run::add_refusal(const Line& line)
 {
     Refusal refusal{static_cast<std::uint32_t>(line.number), "", line.reason, nullptr, line.standing, {}};
     refusal.place = (line.standing.view->kind == View::Kind::top ? "at " : "in ") + place_text(line.standing, *after_);
-    const Tokens tokens(line.text);
+    Tokens tokens;
+    tokens.read(line.text);
     std::vector<Standing> places{line.standing};
     places.insert(places.end(), entered_.begin(), entered_.end());
     places.push_back({&command_index().configure(), 0});
     places.push_back({&command_index().top(), 0});
     for (const Standing& place : places) {
-        const Match match = command_index().find(*place.view, tokens);
-        if (match.pattern != nullptr) {
+        Match match;
+        if (command_index().find(*place.view, tokens, match)) {
             refusal.command = match.pattern;
             refusal.standing = place;
             if (match.pattern->element >= 0) {

@@ -33,7 +33,16 @@ std::int64_t get_number(const Field& field, const unsigned char* at)
 void set_number(const Field& field, unsigned char* at, std::int64_t number)
 {
     static_assert(__BYTE_ORDER__ == __ORDER_LITTLE_ENDIAN__, "the low bytes come first, as in the records");
-    std::memcpy(at, &number, field.width);
+    switch (field.width) { // sizes that the compiler knows
+    case 1:
+        std::memcpy(at, &number, 1);
+        break;
+    case 2:
+        std::memcpy(at, &number, 2);
+        break;
+    default:
+        std::memcpy(at, &number, 4);
+    }
 }
 
 std::string Path::text() const

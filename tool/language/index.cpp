@@ -117,11 +117,22 @@ bool has_wordless(const Field& array)
     return false;
 }
 
-/// Places for the words of all commands: four times as many as there are, so that places are mostly free.
-constexpr std::size_t index_size = 8192;
+/// Places for the words of all commands: at least twice as many as there are, so that the next place is mostly free.
+constexpr std::size_t index_size = 4096;
 constexpr std::size_t edges_at_most = index_size / 2;
 
 } // namespace
+
+/// The place of the edge, or the free one that it would take.
+inline std::size_t Index::place_of(std::uint32_t node, std::uint32_t hash) const
+{
+    const Edge* const edges = literals_.data();
+    std::size_t place = (hash ^ node * 0x9E3779B9U) % index_size;
+    while (edges[place].node != 0 && (edges[place].from != node || edges[place].hash != hash)) {
+        place = (place + 1) % index_size;
+    }
+    return place;
+}
 
 class Index::Builder {
   public:
@@ -429,20 +440,10 @@ Index::Index(const Record& record)
     builder.describe(record, Context{configure_});
 }
 
-/// The place of the edge, or the free one that it would take.
-std::size_t Index::place_of(std::uint32_t node, std::uint32_t hash) const
-{
-    std::size_t place = (hash ^ node * 0x9E3779B9U) % index_size;
-    while (literals_[place].node != 0 && (literals_[place].from != node || literals_[place].hash != hash)) {
-        place = (place + 1) % index_size;
-    }
-    return place;
-}
-
 std::uint32_t Index::literal(std::uint32_t node, const Token& word) const
 {
     const Edge& edge = literals_[place_of(node, word.hash)];
-    return edge.word == word.text ? edge.node : 0;
+    return are_same(edge.word, word.text) ? edge.node : 0;
 }
 
 bool Index::match(std::uint32_t node, std::size_t at, std::size_t captured, const Tokens& tokens, Match& found) const
@@ -481,11 +482,9 @@ bool Index::match(std::uint32_t node, std::size_t at, std::size_t captured, cons
     return match(here.any, at + 1, captured + 1, tokens, found);
 }
 
-Match Index::find(const View& view, const Tokens& tokens) const
+bool Index::find(const View& view, const Tokens& tokens, Match& found) const
 {
-    Match found;
-    match(view.node, 0, 0, tokens, found);
-    return found;
+    return match(view.node, 0, 0, tokens, found);
 }
 
 const Index& command_index()

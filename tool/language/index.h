@@ -75,8 +75,8 @@ class Index {
     Index(const Index&) = delete;
     Index& operator=(const Index&) = delete;
 
-    /// The command of a view that the words are; no pattern when they are none.
-    Match find(const View& view, const Tokens& tokens) const;
+    /// Looks for the command of a view that the words are. @return whether there is one
+    bool find(const View& view, const Tokens& tokens, Match& found) const;
 
     const View& top() const { return *top_; }
     const View& configure() const { return *configure_; }

@@ -23,6 +23,16 @@ std::size_t size_of(const Field& field)
     return field.layout == Layout::ended_list ? field.size : field.width;
 }
 
+/// Sixteen bits of a key.
+std::size_t hash_of_key(const Field& key, const unsigned char* bytes)
+{
+    std::uint16_t first = 0;
+    std::uint16_t last = 0;
+    std::memcpy(&first, bytes, sizeof first);
+    std::memcpy(&last, bytes + key.width - sizeof last, sizeof last);
+    return static_cast<std::uint16_t>(first + 2U * last);
+}
+
 } // namespace
 
 Device::Device(GCfg& configuration)
@@ -47,22 +57,19 @@ const Line& Device::take(std::string_view line)
     line_.removed = {};
     line_.reason.clear();
     line_.settings.clear();
-    const Tokens tokens(line);
-    const bool comment = tokens.size() != 0 && !tokens[0].quoted &&
-                         (tokens[0].text.substr(0, 1) == "!" || tokens[0].text.substr(0, 1) == "#");
-    if (comment || (tokens.size() == 0 && tokens.error() == nullptr)) {
+    tokens_.read(line);
+    const bool comment = tokens_.size() != 0 && !tokens_[0].quoted &&
+                         (tokens_[0].text.substr(0, 1) == "!" || tokens_[0].text.substr(0, 1) == "#");
+    if (comment || (tokens_.size() == 0 && tokens_.error() == nullptr)) {
         return line_;
     }
-    if (tokens.error() != nullptr) {
-        refuse(tokens.error());
-        return line_;
-    }
-    const Match match = index_.find(*standing_.view, tokens);
-    if (match.pattern == nullptr) {
+    if (tokens_.error() != nullptr) {
+        refuse(tokens_.error());
+    } else if (!index_.find(*standing_.view, tokens_, match_)) {
         refuse("the view has no such command");
-        return line_;
+    } else {
+        take(match_);
     }
-    take(match);
     return line_;
 }
 
@@ -317,6 +324,19 @@ bool Device::find_by_text(const Match& match, const Field& member, bool create, 
     return this->create(*pattern.array, table.first, slot, &member);
 }
 
+/// Whether a key may be in the table; most that are new need no search.
+bool Device::may_be_there(const Table& table, const Field& key, const unsigned char* bytes)
+{
+    if (keyed_array_ != table.first) {
+        keyed_array_ = table.first;
+        keys_.reset();
+        for (std::size_t i = 0; i < table.field->count; ++i) {
+            keys_.set(hash_of_key(key, table.at(i) + key.offset));
+        }
+    }
+    return keys_.test(hash_of_key(key, bytes));
+}
+
 bool Device::find_by_key(const Match& match, bool create, std::size_t& slot)
 {
     const Pattern& pattern = *match.pattern;
@@ -340,7 +360,8 @@ bool Device::find_by_key(const Match& match, bool create, std::size_t& slot)
         slot = named_slot_;
         return true;
     }
-    if (const auto found = table.find(key, bytes)) {
+    const auto found = may_be_there(table, key, bytes) ? table.find(key, bytes) : std::nullopt;
+    if (found) {
         slot = *found;
         remember(table.first, slot);
         return true;
@@ -353,6 +374,7 @@ bool Device::find_by_key(const Match& match, bool create, std::size_t& slot)
         return refuse(fmt::format("all {} {} are in use", pattern.array->count, pattern.array->plural));
     }
     slot = *free;
+    keys_.set(hash_of_key(key, bytes));
     return this->create(*pattern.array, table.first, slot, &key);
 }
 

@@ -13,6 +13,7 @@
 #include "tool/language/notation.h"
 #include "tool/language/objects.h"
 
+#include <bitset>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -89,6 +90,7 @@ class Device {
     unsigned char* base() const;
     bool find_element(const Match& match, bool create, std::size_t& slot);
     bool find_by_text(const Match& match, const Field& member, bool create, std::size_t& slot);
+    bool may_be_there(const Table& table, const Field& key, const unsigned char* bytes);
     bool find_by_key(const Match& match, bool create, std::size_t& slot);
     std::optional<std::size_t> find_free(const Table& table);
     bool create(const Field& array, unsigned char* first, std::size_t slot, const Field* member);
@@ -101,6 +103,8 @@ class Device {
     const Index& index_;
     Standing standing_;
     Line line_;
+    Tokens tokens_;          ///< of the line
+    Match match_;            ///< of the line
     std::vector<Said> said_; ///< of the targets of the line
     Said told_;              ///< what tells the element of the line
     /// The entry that was named last: the next line mostly names it again. Forgotten when what tells entries changes.
@@ -109,6 +113,9 @@ class Device {
     /// The array in which an entry was made last: before its slot `filled_` none is free.
     const unsigned char* filled_array_ = nullptr;
     std::size_t filled_ = 0;
+    /// The array in which a key was looked for last, and the hashes of its keys: no other key is there.
+    const unsigned char* keyed_array_ = nullptr;
+    std::bitset<65536> keys_;
 };
 
 /// Takes every line of a script in turn and calls `visit(const Line&)` for each; the script's end ends its last line.

@@ -1,7 +1,5 @@
 #include "tool/language/tokens.h"
 
-#include <cstring>
-
 namespace pondiff::tool {
 
 namespace {
@@ -22,8 +20,10 @@ constexpr std::array<bool, 256> ends_word = [] {
 
 } // namespace
 
-Tokens::Tokens(std::string_view line)
+void Tokens::read(std::string_view line)
 {
+    size_ = 0;
+    error_ = nullptr;
     const char* at = line.data();
     const char* const end = at + line.size();
     for (;;) {
@@ -39,9 +39,12 @@ Tokens::Tokens(std::string_view line)
         }
         const bool quoted = *at == '"';
         const char* const begin = quoted ? at + 1 : at;
+        bool has_nul = false;
         if (quoted) {
-            at = static_cast<const char*>(std::memchr(begin, '"', static_cast<std::size_t>(end - begin)));
-            if (at == nullptr) {
+            for (at = begin; at != end && *at != '"'; ++at) { // values are short
+                has_nul = has_nul || *at == '\0';
+            }
+            if (at == end) {
                 error_ = "a quote is not closed";
                 return;
             }
@@ -57,7 +60,7 @@ Tokens::Tokens(std::string_view line)
             error_ = *at == '\0' ? "a NUL character stands in it" : "a quote stands inside a word";
             return;
         }
-        if (quoted && text.find('\0') != text.npos) {
+        if (has_nul) {
             error_ = "a NUL character stands in it";
             return;
         }

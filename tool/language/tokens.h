@@ -16,30 +16,47 @@ struct Token {
     std::uint32_t hash; ///< of the text
 };
 
+/// The first and the last characters of a word. Up to sixteen characters are no more than them.
+struct Ends {
+    std::uint64_t first = 0;
+    std::uint64_t last = 0;
+};
+
+inline Ends ends_of(std::string_view text)
+{
+    Ends ends;
+    const char* const end = text.data() + text.size();
+    if (text.size() >= 8) { // sizes that the compiler knows
+        std::memcpy(&ends.first, text.data(), 8);
+        std::memcpy(&ends.last, end - 8, 8);
+    } else if (text.size() >= 4) {
+        std::memcpy(&ends.first, text.data(), 4);
+        std::memcpy(&ends.last, end - 4, 4);
+    } else if (!text.empty()) {
+        ends.first =
+            static_cast<unsigned char>(text.front()) * 256U + static_cast<unsigned char>(text[text.size() / 2]);
+        ends.last = static_cast<unsigned char>(text.back());
+    }
+    return ends;
+}
+
 /// Of the length and the ends of a word; longer words that differ in their middle alone have the same.
 inline std::uint32_t hash_of(std::string_view text)
 {
-    std::uint64_t ends[2] = {};
-    const std::size_t part = text.size() >= 8 ? 8 : text.size() >= 4 ? 4 : text.empty() ? 0 : 1;
-    const char* const last = text.data() + text.size() - part;
-    switch (part) { // sizes that the compiler knows
-    case 8:
-        std::memcpy(&ends[0], text.data(), 8);
-        std::memcpy(&ends[1], last, 8);
-        break;
-    case 4:
-        std::memcpy(&ends[0], text.data(), 4);
-        std::memcpy(&ends[1], last, 4);
-        break;
-    case 1:
-        ends[0] = static_cast<unsigned char>(text.front()) * 256U + static_cast<unsigned char>(text[text.size() / 2]);
-        ends[1] = static_cast<unsigned char>(*last);
-        break;
-    default:
-        break;
-    }
-    const std::uint64_t mixed = (ends[0] * 0x9E3779B97F4A7C15U ^ (ends[1] + text.size())) * 0xD6E8FEB86659FD93U;
+    const Ends ends = ends_of(text);
+    const std::uint64_t mixed = (ends.first * 0x9E3779B97F4A7C15U ^ (ends.last + text.size())) * 0xD6E8FEB86659FD93U;
     return static_cast<std::uint32_t>(mixed >> 32U);
+}
+
+/// Whether two words are the same; most have few characters.
+inline bool are_same(std::string_view a, std::string_view b)
+{
+    if (a.size() != b.size()) {
+        return false;
+    }
+    const Ends ends = ends_of(a);
+    const Ends others = ends_of(b);
+    return ends.first == others.first && ends.last == others.last && (a.size() <= 16 || a == b);
 }
 
 /// The words of a line. They refer to the line.
@@ -48,7 +65,8 @@ class Tokens {
     /// More words than any command has.
     static constexpr std::size_t most = 12;
 
-    explicit Tokens(std::string_view line);
+    /// Takes the words of a line in place of those of another one.
+    void read(std::string_view line);
 
     std::size_t size() const { return size_; }
     const Token& operator[](std::size_t i) const { return tokens_[i]; }
