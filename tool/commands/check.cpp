@@ -80,6 +80,6 @@ std::function<ExitStatus()> setup(CLI::App& command)
 
 } // namespace
 
-const Command check_command{"check", "Report the values of a configuration that no script can carry", setup};
+const Command check_command{"check", "Report values of a configuration that no script can carry", setup};
 
 } // namespace pondiff::tool

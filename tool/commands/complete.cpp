@@ -151,8 +151,8 @@ std::function<ExitStatus()> setup(CLI::App& command)
 {
     const auto words = std::make_shared<std::vector<std::string>>();
     command.add_option("WORD", *words,
-                       "The words after \"pondiff\", the last one unfinished; -- precedes\n"
-                       "them");
+                       "The words after \"pondiff\", the last one unfinished;\n"
+                       "-- precedes them");
     command.group(""); // for the shells: not in the help
     command.footer(details);
     return [words, &program = *command.get_parent()] {
