@@ -303,6 +303,20 @@ Area area_named(const std::string& name)
            fmt::format("no such area{}; there are {}", suggestion(kind_name, names_of(area_kinds)), list_of_kinds()));
 }
 
+std::vector<std::string> names_of_areas()
+{
+    std::vector<std::string> names;
+    for (const AreaKind& kind : area_kinds) {
+        if (!kind.argument) {
+            names.emplace_back(kind.name);
+        }
+        for (const std::string& argument : kind.arguments ? kind.arguments() : std::vector<std::string>{}) {
+            names.push_back(fmt::format("{}:{}", kind.name, argument));
+        }
+    }
+    return names;
+}
+
 std::string area_candidates()
 {
     std::string candidates;

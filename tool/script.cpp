@@ -1,20 +1,38 @@
 #include "tool/script.h"
 
-#include "tool/language/reader.h"
+#include "pon/command_file_generator.h"
 
+#include <cstdlib>
 #include <memory>
+#include <new>
 
 namespace pondiff::tool {
 
-bool changes_nothing(std::string_view script, const GCfg& orig)
+namespace {
+
+class Session {
+  public:
+    Session(const ScriptRequest& request, GCfg& running, GCfg& wanted)
+    {
+        if (initiate_diff(&running, &wanted, request.all, request.common) != 0) {
+            throw std::bad_alloc();
+        }
+    }
+    ~Session() { finalize_diff(); }
+    Session(const Session&) = delete;
+    Session& operator=(const Session&) = delete;
+};
+
+} // namespace
+
+std::string script_of(const ScriptRequest& request, GCfg& running, GCfg& wanted)
 {
-    const auto device = std::make_unique<GCfg>(orig);
-    bool nothing = true;
-    read_script(script, *device, [&nothing](const Line& line) {
-        const bool names = line.kind == Line::Kind::setting && line.names_only;
-        nothing = nothing && (line.kind == Line::Kind::move || names) && line.created.array == nullptr;
-    });
-    return nothing;
+    const Session session{request, running, wanted};
+    const std::unique_ptr<char, decltype(&std::free)> text{request.area.script(running, wanted), &std::free};
+    if (!text) {
+        throw std::bad_alloc();
+    }
+    return text.get();
 }
 
 } // namespace pondiff::tool

@@ -1,19 +1,22 @@
 #ifndef TOOL_SCRIPT_H
 #define TOOL_SCRIPT_H
 
-#include "gcfg/gcfg.h"
+#include "tool/areas.h"
 
-#include <string_view>
+#include <string>
 
 namespace pondiff::tool {
 
-/// Whether a script would leave a device that runs `orig` as it is: an empty one, or one that holds nothing but moves
-/// from view to view, declarations of terminal VLANs by names that `orig` holds, and "commit".
-///
-/// Entering the view of an ONT or a profile that `orig` does not hold creates it, so that is no mere move. Inside a
-/// view, a line such as `profile vlan "x"` is a command of that view.
-/// @param script  begins at the top level of the CLI; it may end anywhere
-bool changes_nothing(std::string_view script, const GCfg& orig);
+/// What the library is asked to write.
+struct ScriptRequest {
+    Area area;
+    bool all = false; ///< as for `initiate_diff`: what is equal, too
+    int common = 0;   ///< the same
+};
+
+/// The script that turns a device from one configuration to the other, as the library writes it.
+/// @throws std::bad_alloc when there is not enough memory
+std::string script_of(const ScriptRequest& request, GCfg& running, GCfg& wanted);
 
 } // namespace pondiff::tool
 

@@ -20,8 +20,8 @@ Texts risks_of(const GCfg& running, const std::string& commands)
 {
     RiskWatch watch(running);
     const std::string script = "configure terminal\n" + commands;
-    const Run run(running, script, [&watch](const Line& line, const GCfg& device) { watch.see(line, device); });
-    for (const Run::Refusal& refusal : run.refusals()) {
+    const Replay run(running, script, [&watch](const Line& line, const GCfg& device) { watch.see(line, device); });
+    for (const Replay::Refusal& refusal : run.refusals()) {
         ADD_FAILURE() << "line " << refusal.line - 1 << " is refused: " << refusal.reason;
     }
     Texts texts;
@@ -453,7 +453,7 @@ TEST(Risks, RefusedLinesAreNone)
     running->system.services.ssh.enabled = 1;
     add_ont(*running, 70);
     RiskWatch watch(*running);
-    const pondiff::tool::Run run(
+    const pondiff::tool::Replay run(
         *running, "no ip ssh enable\nconfigure terminal\nmanagement ip 300.0.0.1\nno interface ont 99/6\n",
         [&watch](const Line& line, const GCfg& device) { watch.see(line, device); });
     EXPECT_EQ(run.refusals().size(), 3U);

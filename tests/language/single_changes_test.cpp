@@ -5,10 +5,10 @@
 #include "tests/language/configurations.h"
 #include "tests/support/plausible.h"
 #include "tool/account/meaning.h"
+#include "tool/account/replay.h"
 #include "tool/describe/records.h"
 #include "tool/language/objects.h"
 #include "tool/language/sayable.h"
-#include "tool/script.h"
 
 #include <algorithm>
 #include <cstring>
@@ -194,7 +194,8 @@ class SingleChanges : public testing::Test {
             ASSERT_EQ(data_prepare(orig_.get(), cfg_.get()), 0); // the names may be others now
             const std::string script = script_of(*orig_, *cfg_);
             const bool is_existence = changed[0].field->syntax.kind == Kind::existence; // shown when it begins, or ends
-            if (read_back(changed, script) || (is_existence && !changes_nothing(script_of(*cfg_, *orig_), *cfg_))) {
+            if (read_back(changed, script) ||
+                (is_existence && !Replay(*cfg_, script_of(*cfg_, *orig_)).changes_nothing())) {
                 for (const Member& member : changed) {
                     shown.insert(member.path);
                 }

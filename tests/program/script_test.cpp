@@ -1,6 +1,6 @@
 /// Whether declarations of terminal VLANs change anything; program_test.cpp tests moves between views.
 
-#include "tool/script.h"
+#include "tool/account/replay.h"
 
 #include <cstring>
 #include <gtest/gtest.h>
@@ -23,7 +23,10 @@ class Judgement : public testing::Test {
         std::memcpy(vlans[4].name, "x\" vid \"3", 9);
         vlans[4].exists = 1;
     }
-    bool changes_nothing(const std::string& script) const { return pondiff::tool::changes_nothing(script, *orig); }
+    bool changes_nothing(const std::string& script) const
+    {
+        return pondiff::tool::Replay(*orig, script).changes_nothing();
+    }
 
     std::unique_ptr<GCfg> orig{new GCfg{}};
 };

@@ -33,6 +33,31 @@ struct Outcome {
     std::string err;
 };
 
+/// What standard error holds besides the lines that name what a script does not reach.
+inline std::string besides_not_applied(const std::string& err)
+{
+    std::string rest;
+    for (std::size_t begin = 0; begin < err.size();) {
+        const std::size_t end = std::min(err.find('\n', begin), err.size() - 1) + 1;
+        const std::string line = err.substr(begin, end - begin);
+        rest += line.rfind("pondiff: not applied: ", 0) == 0 ? "" : line;
+        begin = end;
+    }
+    return rest;
+}
+
+/// The paths of the fields that standard error names as not applied.
+inline std::vector<std::string> fields_not_applied(const std::string& err)
+{
+    const std::string start = "pondiff: not applied: ";
+    std::vector<std::string> paths;
+    for (std::size_t at = 0; (at = err.find(start, at)) != err.npos;) {
+        at += start.size();
+        paths.push_back(err.substr(at, err.find(':', at) - at));
+    }
+    return paths;
+}
+
 /// The environment of a run.
 struct Surroundings {
     std::string input{};                    ///< comes through a pipe

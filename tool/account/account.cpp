@@ -2,6 +2,7 @@
 
 #include "tool/account/meaning.h"
 #include "tool/account/naming.h"
+#include "tool/json/forms.h"
 #include "tool/json/values.h"
 #include "tool/language/objects.h"
 #include "tool/language/sayable.h"
@@ -91,7 +92,7 @@ class Account::Builder {
         return first;
     }
 
-    const Run& run() const { return account_.run_; }
+    const Replay& replay() const { return account_.replay_; }
 
     std::size_t offset_in(At which, const unsigned char* at) const
     {
@@ -104,12 +105,12 @@ class Account::Builder {
     LineNumbers lines_naming(const Record& record, const unsigned char* element, At which) const
     {
         const std::size_t offset = offset_in(which, element);
-        const std::uint32_t line = which == after ? run().line_creating(offset) : run().line_removing(offset);
+        const std::uint32_t line = which == after ? replay().line_creating(offset) : replay().line_removing(offset);
         if (line != 0) {
             return {line};
         }
         const Field* const name = record.name_member != nullptr ? record.name_member : record.key_member;
-        return name != nullptr ? run().lines_setting(offset + name->offset) : LineNumbers{};
+        return name != nullptr ? replay().lines_setting(offset + name->offset) : LineNumbers{};
     }
 
     /// The lines that have given a field what it holds after the script.
@@ -121,12 +122,12 @@ class Account::Builder {
             return record != nullptr && beside.there[running] ? lines_naming(*record, beside.element[running], running)
                                                               : LineNumbers{};
         }
-        LineNumbers lines = run().lines_setting(offset_in(after, beside.at[after]));
+        LineNumbers lines = replay().lines_setting(offset_in(after, beside.at[after]));
         if (lines.empty() && beside.field.form == Form::reference) {
             lines = lines_naming_referred(beside);
         }
         if (lines.empty() && record != nullptr) {
-            const std::uint32_t created = run().line_creating(offset_in(after, beside.element[after]));
+            const std::uint32_t created = replay().line_creating(offset_in(after, beside.element[after]));
             lines = created != 0 ? LineNumbers{created} : LineNumbers{};
         }
         if (lines.empty() && record != nullptr && !beside.there[running]) {
@@ -148,7 +149,7 @@ class Account::Builder {
     }
 
     /// Whether a refused line would have set the field.
-    bool concerns(const Run::Refusal& refusal, const Beside<3>& beside) const
+    bool concerns(const Replay::Refusal& refusal, const Beside<3>& beside) const
     {
         if (refusal.command == nullptr) {
             return false;
@@ -164,7 +165,7 @@ class Account::Builder {
         return (sets || names) && is_in_its_object(refusal, beside) && is_its_element(refusal, beside);
     }
 
-    bool is_in_its_object(const Run::Refusal& refusal, const Beside<3>& beside) const
+    bool is_in_its_object(const Replay::Refusal& refusal, const Beside<3>& beside) const
     {
         const View& view = *refusal.standing.view;
         if (view.objects == nullptr || !beside.there[after]) {
@@ -176,7 +177,7 @@ class Account::Builder {
     }
 
     /// Whether the element that a refused line names, if it names one by a text, is the one that the field is in.
-    static bool is_its_element(const Run::Refusal& refusal, const Beside<3>& beside)
+    static bool is_its_element(const Replay::Refusal& refusal, const Beside<3>& beside)
     {
         const Field* const array = refusal.command->array;
         if (array == nullptr || refusal.command->element < 0 || array->element.told != Element::Told::by_name ||
@@ -196,9 +197,9 @@ class Account::Builder {
         return false;
     }
 
-    const Run::Refusal* refusal_of(const Beside<3>& beside) const
+    const Replay::Refusal* refusal_of(const Beside<3>& beside) const
     {
-        for (const Run::Refusal& refusal : run().refusals()) {
+        for (const Replay::Refusal& refusal : replay().refusals()) {
             if (concerns(refusal, beside)) {
                 return &refusal;
             }
@@ -221,15 +222,17 @@ class Account::Builder {
     void judge(const Beside<3>& beside, Item& item) const
     {
         item.lines = lines_of(beside);
+        item.set = beside.there[after] ? !replay().lines_setting(offset_in(after, beside.at[after])).empty()
+                                       : !item.lines.empty();
         if (same(beside, wanted, after)) {
             item.fate = Fate::carried;
             return;
         }
         const bool unwanted = beside.there[after] && !beside.there[wanted];
-        const bool was_there = unwanted && run().line_creating(offset_in(after, beside.element[after])) == 0;
+        const bool was_there = unwanted && replay().line_creating(offset_in(after, beside.element[after])) == 0;
         if (was_there) {
             item.fate = Fate::left_over;
-            const Run::Refusal* const refusal = refusal_of(beside);
+            const Replay::Refusal* const refusal = refusal_of(beside);
             if (refusal != nullptr) {
                 item.lines = {refusal->line};
                 item.reason = refusal->reason + ", " + refusal->place;
@@ -243,13 +246,14 @@ class Account::Builder {
         if (const char* const reason = why_no_command(beside.path)) {
             item.fate = Fate::no_command;
             item.reason = reason;
+            item.lines.clear();
             return;
         }
-        if (beside.there[after] && !run().lines_setting(offset_in(after, beside.at[after])).empty()) {
+        if (beside.there[after] && item.set) {
             item.fate = Fate::different;
             return;
         }
-        if (const Run::Refusal* const refusal = refusal_of(beside)) {
+        if (const Replay::Refusal* const refusal = refusal_of(beside)) {
             item.fate = Fate::refused;
             item.lines = {refusal->line};
             item.reason = refusal->reason + ", " + refusal->place;
@@ -260,9 +264,16 @@ class Account::Builder {
         item.reason = why_not_said(item, said_of_free_slot(beside));
     }
 
+    /// A list is one field.
+    static std::string path_text(const Beside<3>& beside)
+    {
+        std::string text = beside.path.text();
+        return beside.field.layout == Layout::ended_list ? text.substr(0, text.rfind('.')) : text;
+    }
+
     void add(const Beside<3>& beside)
     {
-        Item item{&beside.field, beside.path.text(), beside.at, beside.there, Fate::carried, {}, {}};
+        Item item{&beside.field, path_text(beside), beside.at, beside.there, Fate::carried, false, {}, {}};
         judge(beside, item);
         Entry& entry = entry_of(beside);
         if (beside.object == entry.path.steps().size()) {
@@ -283,6 +294,8 @@ class Account::Builder {
         const auto [known, is_new] = numbers_.try_emplace({path.text(), name}, entries_.size());
         if (is_new) {
             Entry entry{{}, path, {}, {true, true, true}};
+            const Field& field = *path.steps().back().field;
+            entry.object.array = field.array ? &field : nullptr;
             entry.object.name = name;
             entry.object.detail = object_detail(path, configuration);
             entry.object.path = path.text();
@@ -302,7 +315,7 @@ class Account::Builder {
         }
         for (Entry& entry : entries_) {
             const bool is_new = !entry.there[running] && entry.there[wanted] && entry.there[after];
-            if (!is_new || run().line_creating(offset_in(after, entry.at[after])) != 0) {
+            if (!is_new || replay().line_creating(offset_in(after, entry.at[after])) != 0) {
                 continue;
             }
             const std::size_t offset = offset_in(after, entry.at[after]);
@@ -345,9 +358,9 @@ class Account::Builder {
 
 Account::Account(const GCfg& running, const GCfg& wanted, std::string_view script,
                  const std::function<void(const Line&, const GCfg&)>& watch)
-    : configurations_{&running, &wanted, nullptr}, run_(running, script, watch)
+    : configurations_{&running, &wanted, nullptr}, replay_(running, script, watch)
 {
-    configurations_[after] = &run_.after();
+    configurations_[after] = &replay_.after();
     Builder(*this).build();
 }
 
@@ -363,6 +376,22 @@ Account::Verdict Account::verdict() const
     return count(Fate::carried) == all ? Verdict::complete : Verdict::incomplete;
 }
 
+bool Account::sets_wrongly() const
+{
+    const auto wrongly = [](const Item& item) {
+        return item.set && (item.fate == Fate::different || item.fate == Fate::disturbed);
+    };
+    return std::any_of(objects_.begin(), objects_.end(), [&](const ObjectAccount& object) {
+        return std::any_of(object.items.begin(), object.items.end(), wrongly);
+    });
+}
+
+std::size_t Account::offset_of(const Item& item) const
+{
+    const At which = item.there[wanted] ? wanted : item.there[running] ? running : after;
+    return static_cast<std::size_t>(item.at[which] - reinterpret_cast<const unsigned char*>(configurations_[which]));
+}
+
 std::string Account::value(const Item& item, At which) const
 {
     const Field& field = *item.field;
@@ -373,7 +402,11 @@ std::string Account::value(const Item& item, At which) const
     if (field.form == Form::reference) {
         const ReferenceMeant meant = reference_meant(field, item.at[which], *configurations_[which]);
         if (meant.kind != ReferenceMeant::Kind::number) {
-            return meant.kind == ReferenceMeant::Kind::none ? "none" : fmt::format("\"{}\"", meant.name);
+            if (meant.kind == ReferenceMeant::Kind::none) {
+                return "none";
+            }
+            append_quoted(text, meant.name);
+            return text;
         }
     }
     if (field.layout != Layout::ended_list) {

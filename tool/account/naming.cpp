@@ -105,11 +105,13 @@ Path path_at(std::size_t offset)
 
 Path object_path(const Path& field)
 {
-    constexpr std::size_t part = 2; // "system.network"
+    constexpr std::size_t deepest_part = 3; // "system.services.ssh"
     const auto& steps = field.steps();
     const auto object = std::find_if(steps.begin(), steps.end(), is_object);
-    const std::size_t length =
-        object != steps.end() ? static_cast<std::size_t>(object - steps.begin()) + 1 : std::min(part, steps.size() - 1);
+    const auto not_a_part = [](const Path::Step& step) { return step.field->record == nullptr || step.field->array; };
+    const auto part = std::find_if(steps.begin(), steps.end(), not_a_part) - steps.begin();
+    const std::size_t length = object != steps.end() ? static_cast<std::size_t>(object - steps.begin()) + 1
+                                                     : std::min(deepest_part, static_cast<std::size_t>(part));
     Path path;
     for (std::size_t i = 0; i < length; ++i) {
         path.push(*steps[i].field, steps[i].index);
@@ -180,7 +182,7 @@ std::string object_detail(const Path& object, const unsigned char* configuration
     std::string detail;
     for (const Field& field : *step.field->record) {
         const bool tells = field.form == Form::serial || field.name == "description";
-        if (tells && !std::all_of(at + field.offset, at + field.offset + 1, [](unsigned char c) { return c == 0; })) {
+        if (tells && at[field.offset] != 0) {
             detail += detail.empty() ? "" : ", ";
             if (field.form == Form::serial) {
                 detail += "serial ";

@@ -12,7 +12,7 @@ namespace pondiff::tool {
 Path path_at(std::size_t offset);
 
 /// The object that the field at the end of a path belongs to: what has a view of its own, or is removed by its name;
-/// else the part of the configuration, two steps deep.
+/// else the part of the configuration: "system.services.ssh".
 Path object_path(const Path& field);
 
 /// How the CLI calls an object: `interface ont 1/6`, `profile shaping "gold"`; where it has no name, its path.

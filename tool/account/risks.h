@@ -5,7 +5,7 @@
 /// What a person who approves a script wants to see before all else. The descriptions say which changes of fields are
 /// risks (`risky`, phrases.h); removed objects and emptied profiles always are.
 
-#include "tool/account/run.h"
+#include "tool/account/replay.h"
 #include "tool/describe/syntax.h"
 
 #include <cstddef>

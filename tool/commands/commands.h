@@ -23,6 +23,8 @@ struct Command {
 /// All sub-commands, in the order of the help page.
 #define PONDIFF_COMMANDS(COMMAND)                                                                                      \
     COMMAND(diff)                                                                                                      \
+    COMMAND(plan)                                                                                                      \
+    COMMAND(verify)                                                                                                    \
     COMMAND(check)                                                                                                     \
     COMMAND(pack)                                                                                                      \
     COMMAND(show)                                                                                                      \

@@ -1,22 +1,20 @@
-#include "pon/command_file_generator.h"
-#include "tool/areas.h"
+#include "tool/account/account.h"
+#include "tool/account/alike.h"
 #include "tool/check.h"
 #include "tool/commands/candidates.h"
+#include "tool/commands/change.h"
 #include "tool/commands/commands.h"
 #include "tool/describe/description.h"
 #include "tool/errors.h"
 #include "tool/files.h"
-#include "tool/input.h"
 #include "tool/messages.h"
-#include "tool/script.h"
 #include "tool/unsafe.h"
 
 #include <CLI/CLI.hpp>
-#include <cstdlib>
+#include <algorithm>
 #include <fmt/format.h>
+#include <map>
 #include <memory>
-#include <new>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -83,53 +81,36 @@ Examples:
 }
 
 struct Arguments {
-    Input input;
-    std::string orig;
-    std::string cfg;
+    Change change;
     std::string output = standard_stream;
-    std::optional<std::string> only;
-    int common = 0;
     bool all = false;
     bool strict = false;
     bool force = false;
     bool verbatim = false;
+    std::string rollback;
+    int max_removals = -1; ///< any number
+
+    /// Whether the script is not meant to lead from one configuration to the other.
+    bool is_dump() const { return all || verbatim; }
 };
 
-class Session {
-  public:
-    Session(GCfg& orig, GCfg& cfg, const Arguments& arguments)
-    {
-        if (initiate_diff(&orig, &cfg, arguments.all, arguments.common) != 0)
-            throw std::bad_alloc();
-    }
-    ~Session() { finalize_diff(); }
-    Session(const Session&) = delete;
-    Session& operator=(const Session&) = delete;
-};
-
-std::string script_of(const Area& area, GCfg& orig, GCfg& cfg, const Arguments& arguments)
-{
-    const Session session{orig, cfg, arguments};
-    const std::unique_ptr<char, decltype(&std::free)> text{area.script(orig, cfg), &std::free};
-    if (!text)
-        throw std::bad_alloc();
-    return text.get();
-}
-
-/// Reports the texts that the script shows and must not, each with its file and path; true when there are any.
-bool report_unsafe_texts(const Area& area, const GCfg& orig, const GCfg& cfg, const Arguments& arguments)
+/// Reports the texts that the script shows and must not, each with its file and path.
+/// @param from, to  the files of the configurations
+/// @throws Error when there are any, unless it is forced
+void check_texts(const ScriptRequest& request, const GCfg& running, const GCfg& wanted, const std::string& from,
+                 const std::string& to, bool force)
 {
     const std::vector<UnsafeText> texts = unsafe_texts(
-        orig, cfg, [&](GCfg& old_copy, GCfg& new_copy) { return script_of(area, old_copy, new_copy, arguments); });
+        running, wanted, [&](GCfg& old_copy, GCfg& new_copy) { return script_of(request, old_copy, new_copy); });
     for (const UnsafeText& unsafe : texts) {
-        if (unsafe.source == UnsafeText::Source::platform) {
-            report_warning(unsafe.text);
-            continue;
-        }
-        const std::string& file = unsafe.source == UnsafeText::Source::cfg ? arguments.cfg : arguments.orig;
-        report_warning(fmt::format("{}: {}: {}", name_of_input(file), unsafe.path, unsafe.text));
+        const std::string& file = unsafe.source == UnsafeText::Source::cfg ? to : from;
+        report_warning(unsafe.source == UnsafeText::Source::platform
+                           ? unsafe.text
+                           : fmt::format("{}: {}: {}", name_of_input(file), unsafe.path, unsafe.text));
     }
-    return !texts.empty();
+    if (!texts.empty() && !force) {
+        throw Error("no script is written: it would not do what it shows; --force writes it");
+    }
 }
 
 /// Warns of the values in an area that mean nothing to a device; true when there are any.
@@ -139,67 +120,124 @@ bool warn_of_findings(const Area& area, const GCfg& orig, const GCfg& cfg, const
     for (const Finding& finding : check_change(orig, cfg, arguments.all)) {
         if (finding.unsafe || !overlaps(area.records, finding.offset, finding.size))
             continue;
-        report_warning(fmt::format("{}: {}: {}", name_of_input(arguments.cfg), finding.path, finding.text));
+        report_warning(fmt::format("{}: {}: {}", name_of_input(arguments.change.wanted), finding.path, finding.text));
         any = true;
     }
     return any;
 }
 
-void warn_of_silent_fields(std::size_t count)
+/// Names what the script does not reach; true when there is anything.
+/// @param how    "not applied"
+/// @param scope  outside of it nothing is missed
+bool report_not_carried(const Account& account, const char* how, const Ranges& scope)
 {
-    if (count == 1)
-        report_warning("1 field differs without a command in this scope");
-    else if (count != 0)
-        report_warning(fmt::format("{} fields differ without a command in this scope", count));
+    constexpr std::size_t most = 20;
+    std::vector<const Item*> items = items_with(account, fates_not_carried);
+    const auto is_outside = [&](const Item* item) {
+        const bool is_set = item->fate == Fate::different || item->fate == Fate::disturbed;
+        return !is_set && !overlaps(scope, account.offset_of(*item), item->field->width);
+    };
+    items.erase(std::remove_if(items.begin(), items.end(), is_outside), items.end());
+    std::size_t shown = 0;
+    std::size_t more = 0;
+    for (const Alike& alike : fold(account, items)) {
+        const Item& item = *alike.item;
+        if (++shown <= most) {
+            report_warning(fmt::format("{}: {}{}: {}; {}", how, item.path, and_more(alike),
+                                       outcome(account, item, false), why(item)));
+        } else {
+            more += 1 + alike.more;
+        }
+    }
+    if (more != 0) {
+        report_warning(fmt::format("{}: {} more fields; \"pondiff plan --full\" names them", how, more));
+    }
+    return shown != 0;
 }
 
-ExitStatus run(const Area& area, Arguments& arguments)
+/// Refuses a script that removes more objects than the user has said.
+void check_removals(const Account& account, int most)
 {
-    const auto [orig, cfg] = arguments.input.configurations(arguments.orig, arguments.cfg);
-    if (report_unsafe_texts(area, *orig, *cfg, arguments) && !arguments.force)
-        throw Error("no script is written: it would not do what it shows; --force writes it");
-    if (warn_of_findings(area, *orig, *cfg, arguments) && arguments.strict)
+    std::map<std::string_view, std::size_t> removed;
+    std::size_t all = 0;
+    for (const ObjectAccount& object : account.objects()) {
+        const bool by_script =
+            std::any_of(object.items.begin(), object.items.end(), [](const Item& item) { return !item.lines.empty(); });
+        if (object.array != nullptr && object.change == ObjectAccount::Change::removed && by_script) {
+            ++removed[object.array->plural];
+            ++all;
+        }
+    }
+    if (all <= static_cast<std::size_t>(most)) {
+        return;
+    }
+    std::vector<std::string> counts;
+    for (const auto& [kind, count] : removed) {
+        counts.push_back(fmt::format("{}: {}", kind, count));
+    }
+    throw Error(fmt::format("no script is written: it removes {} objects ({}), more than --max-removals {}", all,
+                            fmt::join(counts, ", "), most));
+}
+
+/// Writes the script that leads from what the device then holds to what it runs now.
+void write_way_back(const ScriptRequest& request, GCfg& after, GCfg& orig, const Arguments& arguments)
+{
+    const Change& change = arguments.change;
+    check_texts(request, after, orig, change.wanted, change.running, arguments.force);
+    const std::string script = script_of(request, after, orig);
+    const Account account(after, orig, script);
+    report_not_carried(account, "not restored", request.area.records);
+    write_file(arguments.rollback, account.replay().changes_nothing() ? "" : script);
+}
+
+/// Refuses a script that sets what is not wanted, or removes too much.
+void check_outcome(const Account& account, const Arguments& arguments)
+{
+    if (account.sets_wrongly() && !arguments.force) {
+        throw Error("no script is written: it would set fields to values that are not wanted; --force writes it");
+    }
+    if (arguments.max_removals >= 0) {
+        check_removals(account, arguments.max_removals);
+    }
+}
+
+ExitStatus run(Arguments& arguments)
+{
+    Change& change = arguments.change;
+    ScriptRequest request = change.request();
+    request.all = arguments.all;
+    const auto [orig, cfg] = change.input.configurations(change.running, change.wanted);
+    check_texts(request, *orig, *cfg, change.running, change.wanted, arguments.force);
+    if (warn_of_findings(request.area, *orig, *cfg, arguments) && arguments.strict) {
         throw Error("no script is written: --strict");
-    const std::string script = script_of(area, *orig, *cfg, arguments);
-    const bool nothing_to_do = changes_nothing(script, *orig);
+    }
+    const std::string script = script_of(request, *orig, *cfg);
+    const Account account(*orig, *cfg, script);
+    const Ranges scope = change.only ? request.area.records : Ranges{{0, sizeof(GCfg)}};
+    const bool misses = !arguments.all && report_not_carried(account, "not applied", scope);
+    if (misses && arguments.strict) {
+        throw Error("no script is written: it does not reach all that is wanted, and --strict asks for it");
+    }
+    if (!arguments.is_dump()) {
+        check_outcome(account, arguments);
+    }
+    if (!arguments.rollback.empty()) {
+        const auto after = std::make_unique<GCfg>(account.replay().after());
+        write_way_back(request, *after, *orig, arguments);
+    }
+    const bool nothing_to_do = account.replay().changes_nothing();
     write_file(arguments.output, nothing_to_do && !arguments.verbatim ? "" : script);
-    if (!nothing_to_do)
-        return ExitStatus::script_written;
-    // With the common records alone, what differs elsewhere has no command in this scope either.
-    warn_of_silent_fields(!arguments.only ? count_differing_fields(*orig, *cfg)
-                                          : count_differing_fields(*orig, *cfg, area.records));
-    return ExitStatus::success;
+    return nothing_to_do ? ExitStatus::success : ExitStatus::script_written;
 }
 
 std::function<ExitStatus()> setup(CLI::App& command)
 {
     const auto arguments = std::make_shared<Arguments>();
-    command.add_option("ORIG", arguments->orig, "Configuration that the device runs; - is standard input")->required();
-    command.add_option("CFG", arguments->cfg, "Configuration wanted; - is standard input, but not for both")
-        ->required();
+    arguments->change.add_files(command, "ORIG", "CFG");
     command.add_flag("--all", arguments->all,
                      "Render what is equal, too, as if it had changed. For what\n"
                      "is left out while it is equal, see below");
-    command
-        .add_option("--common", arguments->common,
-                    "Choose what is compared. 1 compares the common settings\n"
-                    "only: CLI, alarms, layout of serial numbers, PON network,\n"
-                    "OLT and IP source guard. 0, the default, 2 and other\n"
-                    "numbers compare everything; with --all, 1 and 2 show more\n"
-                    "of what is equal, see below")
-        ->option_text("N")
-        ->check(completed_by("0\tthe whole configuration\n"
-                             "1\tthe common settings only\n"
-                             "2\twith --all, the common settings and the default relay profiles too\n"));
-    command
-        .add_option("--only", arguments->only,
-                    "Compare one area alone. An area is a part of the\n"
-                    "configuration, an ONT, a profile or a block of settings;\n"
-                    "they are listed below. With it, --common matters only to\n"
-                    "what --all renders")
-        ->option_text("AREA")
-        ->check(completed_by(area_candidates()));
-    arguments->input.add_option(command);
+    arguments->change.add_options(command);
     command.add_flag("--strict", arguments->strict,
                      "Write no script when CFG has a value that means nothing to\n"
                      "a device; the exit status is then 2");
@@ -210,12 +248,23 @@ std::function<ExitStatus()> setup(CLI::App& command)
     command.add_flag("--verbatim", arguments->verbatim,
                      "Print the script even when it would change nothing; the\n"
                      "exit status stays 0");
+    command
+        .add_option("--max-removals", arguments->max_removals,
+                    "Write no script that removes more than N objects: ONTs,\n"
+                    "profiles, terminal VLANs, users")
+        ->option_text("N")
+        ->check(completed_by(""));
+    command
+        .add_option("--rollback", arguments->rollback,
+                    "Write the way back to FILE: the script from what the device\n"
+                    "holds after this one to ORIG")
+        ->option_text("FILE");
     command.add_option("-o,--output", arguments->output, "Write the script to FILE instead of standard output")
         ->option_text("FILE");
     command.footer(details());
     return [arguments] {
-        arguments->input.check({arguments->orig, arguments->cfg});
-        return run(arguments->only ? area_named(*arguments->only) : whole_configuration(arguments->common), *arguments);
+        arguments->change.input.check({arguments->change.running, arguments->change.wanted});
+        return run(*arguments);
     };
 }
 

@@ -1,11 +1,13 @@
-#include "tool/account/run.h"
+#include "tool/account/replay.h"
+
+#include "tool/language/objects.h"
 
 #include <algorithm>
 #include <utility>
 
 namespace pondiff::tool {
 
-Run::Run(const GCfg& running, std::string_view script, const std::function<void(const Line&, const GCfg&)>& watch)
+Replay::Replay(const GCfg& running, std::string_view script, const std::function<void(const Line&, const GCfg&)>& watch)
     : after_(std::make_unique<GCfg>(running))
 {
     read_script(script, *after_, [&](const Line& line) {
@@ -21,13 +23,13 @@ Run::Run(const GCfg& running, std::string_view script, const std::function<void(
     }
 }
 
-void Run::Events::add(std::size_t offset, std::size_t size, std::size_t line)
+void Replay::Events::add(std::size_t offset, std::size_t size, std::size_t line)
 {
     all.push_back({offset, size, static_cast<std::uint32_t>(line)});
     widest = std::max(widest, size);
 }
 
-void Run::add(const Line& line)
+void Replay::add(const Line& line)
 {
     lines_.push_back(line.text);
     const Standing& at = line.standing;
@@ -38,13 +40,20 @@ void Run::add(const Line& line)
         entered_.insert(entered_.begin(), at);
     }
     if (line.kind == Line::Kind::refused) {
+        changes_nothing_ = false;
         add_refusal(line);
         return;
     }
     if (line.ambiguous) {
         ambiguous_.push_back(static_cast<std::uint32_t>(line.number));
     }
+    const bool changes = line.kind == Line::Kind::removal || line.ambiguous || line.created.array != nullptr ||
+                         (line.kind == Line::Kind::setting && !line.names_only);
+    changes_nothing_ = changes_nothing_ && !changes;
     for (const Setting& setting : line.settings) {
+        if (setting.field->form == Form::secret) {
+            mask(line, text_in(*setting.field, reinterpret_cast<const unsigned char*>(after_.get()) + setting.offset));
+        }
         settings_.add(setting.offset, setting.size, line.number);
     }
     if (line.created.array != nullptr) {
@@ -55,31 +64,56 @@ void Run::add(const Line& line)
     }
 }
 
-void Run::add_refusal(const Line& line)
+void Replay::add_refusal(const Line& line)
 {
     Refusal refusal{static_cast<std::uint32_t>(line.number), "", line.reason, nullptr, line.standing, {}};
     refusal.place = (line.standing.view->kind == View::Kind::top ? "at " : "in ") + place_text(line.standing, *after_);
+    const std::string closed = std::string(line.text) + '"';
     Tokens tokens;
     tokens.read(line.text);
+    if (tokens.error() != nullptr) {
+        tokens.read(closed); // a quote that is not closed is the commonest error
+    }
     std::vector<Standing> places{line.standing};
     places.insert(places.end(), entered_.begin(), entered_.end());
     places.push_back({&command_index().configure(), 0});
     places.push_back({&command_index().top(), 0});
     for (const Standing& place : places) {
         Match match;
-        if (command_index().find(*place.view, tokens, match)) {
-            refusal.command = match.pattern;
-            refusal.standing = place;
-            if (match.pattern->element >= 0) {
-                refusal.element = match.words[static_cast<std::size_t>(match.pattern->element)].text;
-            }
-            break;
+        if (!command_index().find(*place.view, tokens, match)) {
+            continue;
         }
+        refusal.command = match.pattern;
+        refusal.standing = place;
+        if (match.pattern->element >= 0) {
+            refusal.element = match.words[static_cast<std::size_t>(match.pattern->element)].text;
+        }
+        for (const Target& target : match.pattern->targets) {
+            if (target.field->form == Form::secret && target.word >= 0) {
+                mask(line, match.words[static_cast<std::size_t>(target.word)].text);
+            }
+        }
+        break;
     }
     refusals_.push_back(std::move(refusal));
 }
 
-LineNumbers Run::lines_setting(std::size_t offset) const
+void Replay::mask(const Line& line, std::string_view secret)
+{
+    std::string text(line.text);
+    const std::size_t at = secret.empty() ? text.npos : text.rfind(secret);
+    if (at != text.npos) {
+        masked_[static_cast<std::uint32_t>(line.number)] = text.replace(at, secret.size(), "***");
+    }
+}
+
+std::string Replay::masked(std::uint32_t line) const
+{
+    const auto found = masked_.find(line);
+    return found != masked_.end() ? found->second : std::string(lines_[line - 1]);
+}
+
+LineNumbers Replay::lines_setting(std::size_t offset) const
 {
     const std::uint32_t created = line_creating(offset);
     const auto by_offset = [](const Event& event, std::size_t wanted) { return event.offset < wanted; };
@@ -93,7 +127,7 @@ LineNumbers Run::lines_setting(std::size_t offset) const
     return lines;
 }
 
-std::uint32_t Run::last_over(const Events& events, std::size_t offset)
+std::uint32_t Replay::last_over(const Events& events, std::size_t offset)
 {
     std::uint32_t last = 0;
     auto event = std::upper_bound(events.all.begin(), events.all.end(), offset,
@@ -106,12 +140,12 @@ std::uint32_t Run::last_over(const Events& events, std::size_t offset)
     return last;
 }
 
-std::uint32_t Run::line_creating(std::size_t offset) const
+std::uint32_t Replay::line_creating(std::size_t offset) const
 {
     return last_over(creations_, offset);
 }
 
-std::uint32_t Run::line_removing(std::size_t offset) const
+std::uint32_t Replay::line_removing(std::size_t offset) const
 {
     return last_over(removals_, offset);
 }

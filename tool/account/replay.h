@@ -1,5 +1,5 @@
-#ifndef TOOL_ACCOUNT_RUN_H
-#define TOOL_ACCOUNT_RUN_H
+#ifndef TOOL_ACCOUNT_REPLAY_H
+#define TOOL_ACCOUNT_REPLAY_H
 
 #include "tool/language/reader.h"
 
@@ -9,6 +9,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 namespace pondiff::tool {
@@ -17,7 +18,7 @@ namespace pondiff::tool {
 using LineNumbers = std::vector<std::uint32_t>;
 
 /// What a device has made of a whole script: what it holds afterwards, and which lines have led to that.
-class Run {
+class Replay {
   public:
     /// A line that the device has refused.
     struct Refusal {
@@ -27,19 +28,24 @@ class Run {
         /// The command that it is, and where the device would have taken it; null where it is none anywhere.
         const Pattern* command = nullptr;
         Standing standing;
-        std::string_view element; ///< what tells the element of the command's array
+        std::string element; ///< what tells the element of the command's array
     };
 
     /// @param script  stays
     /// @param watch   called with each line, and with what the device holds after it
-    Run(const GCfg& running, std::string_view script, const std::function<void(const Line&, const GCfg&)>& watch = {});
+    Replay(const GCfg& running, std::string_view script,
+           const std::function<void(const Line&, const GCfg&)>& watch = {});
 
     /// What the device holds after the script.
     const GCfg& after() const { return *after_; }
 
     /// The script's lines, without their line feeds.
     const std::vector<std::string_view>& lines() const { return lines_; }
+    /// A line, from 1, with secrets replaced by ***.
+    std::string masked(std::uint32_t line) const;
     const std::vector<Refusal>& refusals() const { return refusals_; }
+    /// Whether the script is made of moves and of names that the device knows already.
+    bool changes_nothing() const { return changes_nothing_; }
     /// Lines that the device has taken without setting anything, as they are written for several values.
     const LineNumbers& ambiguous() const { return ambiguous_; }
 
@@ -65,10 +71,13 @@ class Run {
 
     void add(const Line& line);
     void add_refusal(const Line& line);
+    void mask(const Line& line, std::string_view secret);
     static std::uint32_t last_over(const Events& events, std::size_t offset);
 
     std::unique_ptr<GCfg> after_;
     std::vector<std::string_view> lines_;
+    bool changes_nothing_ = true;
+    std::unordered_map<std::uint32_t, std::string> masked_; ///< the lines that show a secret
     std::vector<Refusal> refusals_;
     LineNumbers ambiguous_;
     Events settings_;

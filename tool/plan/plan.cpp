@@ -1,0 +1,128 @@
+#include "tool/plan/plan.h"
+
+#include <algorithm>
+#include <fmt/format.h>
+#include <memory>
+#include <set>
+
+namespace pondiff::tool {
+
+namespace {
+
+/// The paths of what an account carries.
+std::set<std::string> carried_by(const Account& account)
+{
+    std::set<std::string> paths;
+    for (const ObjectAccount& object : account.objects()) {
+        for (const Item& item : object.items) {
+            if (item.fate == Fate::carried) {
+                paths.insert(item.path);
+            }
+        }
+    }
+    return paths;
+}
+
+class Remedies {
+  public:
+    Remedies(Plan& plan, const GCfg& running, const GCfg& wanted)
+        : plan_(plan), running_(std::make_unique<GCfg>(running)), wanted_(std::make_unique<GCfg>(wanted))
+    {
+        for (const ObjectAccount& object : plan.account.objects()) {
+            for (const Item& item : object.items) {
+                if (item.fate == Fate::not_said) {
+                    open_.push_back(&item);
+                }
+            }
+        }
+    }
+
+    bool any_open() const { return !open_.empty(); }
+
+    /// What a second script, written for what the device then holds, would set.
+    void try_again(const ScriptRequest& request)
+    {
+        const auto device = std::make_unique<GCfg>(plan_.account.replay().after());
+        take(*device, request, "run pondiff diff again after this script");
+    }
+
+    void try_area(const std::string& name)
+    {
+        const Area area = area_named(name);
+        const bool concerned = std::any_of(open_.begin(), open_.end(), [&](const Item* item) {
+            return overlaps(area.records, plan_.account.offset_of(*item), item->field->width);
+        });
+        if (concerned) {
+            take(*running_, {area}, fmt::format("--only {}", name));
+        }
+    }
+
+  private:
+    void take(GCfg& device, const ScriptRequest& request, const std::string& remedy)
+    {
+        const std::string script = script_of(request, device, *wanted_);
+        const std::set<std::string> carried = carried_by(Account(device, *wanted_, script));
+        const auto done = [&](const Item* item) {
+            const bool helps = carried.count(item->path) != 0;
+            if (helps) {
+                plan_.remedies.emplace(item->path, remedy);
+            }
+            return helps;
+        };
+        open_.erase(std::remove_if(open_.begin(), open_.end(), done), open_.end());
+    }
+
+    Plan& plan_;
+    std::unique_ptr<GCfg> running_;
+    std::unique_ptr<GCfg> wanted_;
+    std::vector<const Item*> open_;
+};
+
+} // namespace
+
+std::string Plan::remedy(const Item& item) const
+{
+    const auto found = remedies.find(item.path);
+    if (found != remedies.end()) {
+        return found->second;
+    }
+    switch (item.fate) {
+    case Fate::no_command:
+        return "set it by hand: no command";
+    case Fate::not_said:
+        return "set it by hand";
+    case Fate::refused:
+        return "give the command by hand, in the view that knows it";
+    case Fate::left_over:
+        return "remove it by hand";
+    case Fate::different:
+    case Fate::disturbed:
+        return "correct the line, or set it by hand afterwards";
+    case Fate::carried:
+        break;
+    }
+    return "";
+}
+
+Plan make_plan(const GCfg& running, const GCfg& wanted, std::string_view script)
+{
+    RiskWatch watch(running);
+    Account account(running, wanted, script,
+                    [&watch](const Line& line, const GCfg& device) { watch.see(line, device); });
+    return {std::move(account), watch.risks(), {}};
+}
+
+void find_remedies(Plan& plan, const GCfg& running, const GCfg& wanted, const ScriptRequest& request)
+{
+    Remedies remedies(plan, running, wanted);
+    if (remedies.any_open()) {
+        remedies.try_again(request);
+    }
+    for (const std::string& area : names_of_areas()) {
+        if (remedies.any_open()) {
+            remedies.try_area(area);
+        }
+    }
+}
+
+} // namespace pondiff::tool
