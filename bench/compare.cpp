@@ -14,8 +14,9 @@ using namespace pondiff::bench;
 void report(const char* name, const Configuration& orig, const Configuration& cfg, int runs)
 {
     const double time = median_time(runs, [&] {
-        if (initiate_diff(orig.get(), cfg.get(), 0, 0) != 0)
+        if (initiate_diff(orig.get(), cfg.get(), 0, 0) != 0) {
             std::abort();
+        }
         std::free(GetDiff(orig.get(), cfg.get()));
         finalize_diff();
     });

@@ -46,11 +46,14 @@ const std::vector<int>& values_with_words(const char* type)
 {
     static std::map<std::string, std::vector<int>> known;
     std::vector<int>& values = known[type];
-    for (int value = 1; value < 256 && (values.empty() || values.back() < value); ++value)
-        if (std::strcmp(gpon_enum_find_name_by_type(type, value), "unknown") != 0)
+    for (int value = 1; value < 256 && (values.empty() || values.back() < value); ++value) {
+        if (std::strcmp(gpon_enum_find_name_by_type(type, value), "unknown") != 0) {
             values.push_back(value);
-    if (values.empty())
+        }
+    }
+    if (values.empty()) {
         values.push_back(1);
+    }
     return values;
 }
 
@@ -64,22 +67,30 @@ std::int64_t number(const Leaf& leaf, std::uint64_t seed)
 {
     const Field& field = leaf.field;
     const std::string_view name = field.name;
-    if (field.layout == tool::Layout::ended_list) // pairs of neighbours, ascending
+    if (field.layout == tool::Layout::ended_list) { // pairs of neighbours, ascending
         return 90 + static_cast<std::int64_t>(leaf.index / 2 * 180 + leaf.index % 2) + pick(seed, 1);
-    if (contains(name, "feature"))
+    }
+    if (contains(name, "feature")) {
         return tool::largest(field);
-    if (contains(name, "vid") || contains(name, "vlan"))
+    }
+    if (contains(name, "vid") || contains(name, "vlan")) {
         return pick(seed, 4094);
-    if (contains(name, "prio") || contains(name, "cos"))
+    }
+    if (contains(name, "prio") || contains(name, "cos")) {
         return pick(seed, 7);
-    if (name == "channel_index")
+    }
+    if (name == "channel_index") {
         return pick(seed, GCFG_GPON_PORTS - 1);
-    if (name == "ont_id")
+    }
+    if (name == "ont_id") {
         return pick(seed, GCFG_ONTS_PER_PORT - 1);
-    if (contains(name, "mask"))
+    }
+    if (contains(name, "mask")) {
         return pick(seed, 32);
-    if (name == "power_priority")
+    }
+    if (name == "power_priority") {
         return pick(seed, 3);
+    }
     return pick(seed, std::min<std::int64_t>(tool::largest(field), 1'000'000));
 }
 
@@ -101,15 +112,19 @@ std::string text(const Field& field, std::uint64_t seed)
 {
     const std::string_view name = field.name;
     const std::string mark = std::to_string(seed % 100'000);
-    if (name == "description")
+    if (name == "description") {
         return "subscriber line " + mark;
-    if (contains(name, "_id_format"))
+    }
+    if (contains(name, "_id_format")) {
         return "%HOSTNAME%-%CHANNELID%/%ONTID%/" + mark;
-    if (field.form == Form::secret)
+    }
+    if (field.form == Form::secret) {
         return "Kq" + mark;
+    }
     std::string result = std::string(name) + '-' + mark;
-    if (result.size() >= field.width) // texts differ at their end
+    if (result.size() >= field.width) { // texts differ at their end
         result.erase(0, result.size() - (field.width - 1));
+    }
     return result;
 }
 
@@ -146,8 +161,9 @@ void fill(const Leaf& leaf, unsigned char* at)
         std::memcpy(at + 4, &seed, 4);
         return;
     default: // addresses
-        for (std::size_t i = 0; i < field.width; ++i)
+        for (std::size_t i = 0; i < field.width; ++i) {
             at[i] = static_cast<unsigned char>(pick(scatter(seed + i), 254));
+        }
     }
 }
 
@@ -195,8 +211,9 @@ void refer_to_slot_1(GCfg& configuration)
     tool::for_each_leaf(tool::gcfg_record, [bytes](const Leaf& leaf) {
         const Field& field = leaf.field;
         const bool to_profile = field.form == Form::reference && tool::kind_of(field.reference) != nullptr;
-        if (to_profile && tool::get_number(field, bytes + leaf.offset) != 0)
+        if (to_profile && tool::get_number(field, bytes + leaf.offset) != 0) {
             tool::set_number(field, bytes + leaf.offset, 1);
+        }
     });
 }
 
@@ -211,8 +228,9 @@ Configuration random_bytes(std::uint64_t seed)
 {
     Configuration result = blank();
     auto* const bytes = reinterpret_cast<unsigned char*>(result.get());
-    for (std::size_t i = 0; i < sizeof(GCfg); ++i)
+    for (std::size_t i = 0; i < sizeof(GCfg); ++i) {
         bytes[i] = static_cast<unsigned char>(scatter(seed + i));
+    }
     return result;
 }
 
@@ -222,9 +240,11 @@ Configuration full()
     auto* const bytes = reinterpret_cast<unsigned char*>(result.get());
     tool::for_each_leaf(tool::gcfg_record, [bytes](const Leaf& leaf) { fill(leaf, bytes + leaf.offset); });
     name_objects(*result);
-    for (GPonProfileOltAddressTable& profile : result->pon.profiles_olt.address_table)
-        for (int i = 0; i < GCFG_SVLANS; ++i)
+    for (GPonProfileOltAddressTable& profile : result->pon.profiles_olt.address_table) {
+        for (int i = 0; i < GCFG_SVLANS; ++i) {
             profile.svlan_config[i].svlan = static_cast<s16>(i + 1);
+        }
+    }
     return result;
 }
 

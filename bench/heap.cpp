@@ -31,11 +31,13 @@ struct Heap {
 
     void change(std::size_t released, std::size_t taken)
     {
-        if (!counting)
+        if (!counting) {
             return;
+        }
         held += taken - released;
-        if (held > peak)
+        if (held > peak) {
             peak = held;
+        }
     }
 };
 
@@ -48,8 +50,9 @@ std::size_t size_of(void* block)
 
 void* counted(void* block, std::size_t released)
 {
-    if (heap.counting)
+    if (heap.counting) {
         ++heap.allocations;
+    }
     heap.change(released, size_of(block));
     return block;
 }
@@ -95,8 +98,9 @@ struct Taken {
 Taken measure(GCfg* orig, GCfg* cfg)
 {
     heap = {true, 0, 0, 0};
-    if (initiate_diff(orig, cfg, 0, 0) != 0)
+    if (initiate_diff(orig, cfg, 0, 0) != 0) {
         std::exit(EXIT_FAILURE);
+    }
     heap.allocations = 0;
     char* const text = GetDiff(orig, cfg);
     heap.counting = false;

@@ -27,8 +27,9 @@ class Session {
   public:
     Session(const Configuration& before, const Configuration& after) : orig(before.get()), cfg(after.get())
     {
-        if (initiate_diff(orig, cfg, 0, 0) != 0)
+        if (initiate_diff(orig, cfg, 0, 0) != 0) {
             std::abort();
+        }
     }
     ~Session() { finalize_diff(); }
     Session(const Session&) = delete;
@@ -93,8 +94,9 @@ void one_change(benchmark::State& state, const Flip& flip)
     const Configuration cfg = full();
     const Session session(orig, cfg);
     flip(*cfg);
-    if (session.script().empty())
+    if (session.script().empty()) {
         state.SkipWithError("the change has no command");
+    }
     flip(*cfg);
     Ratios ratios;
     for ([[maybe_unused]] auto pass : state) {
@@ -189,8 +191,9 @@ double diff_time(const Configuration& orig, const Configuration& cfg, int runs)
     const Session session(orig, cfg);
     session.diff();
     return timed([&] {
-               for (int i = 0; i < runs; ++i)
+               for (int i = 0; i < runs; ++i) {
                    session.diff();
+               }
            }) /
            runs;
 }

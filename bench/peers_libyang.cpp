@@ -13,8 +13,9 @@ using namespace pondiff::bench;
 
 void require(bool holds, const char* what)
 {
-    if (holds)
+    if (holds) {
         return;
+    }
     std::fprintf(stderr, "bench-libyang: %s\n", what);
     std::exit(EXIT_FAILURE);
 }

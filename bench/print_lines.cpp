@@ -17,13 +17,17 @@ bool is_digit(char c)
 bool is_number(std::string_view text)
 {
     constexpr std::size_t digits_of_an_int = 9;
-    if (!text.empty() && text.front() == '-')
+    if (!text.empty() && text.front() == '-') {
         text.remove_prefix(1);
-    if (text.empty() || text.size() > digits_of_an_int || (text.size() > 1 && text.front() == '0'))
+    }
+    if (text.empty() || text.size() > digits_of_an_int || (text.size() > 1 && text.front() == '0')) {
         return false;
-    for (const char c : text)
-        if (!is_digit(c))
+    }
+    for (const char c : text) {
+        if (!is_digit(c)) {
             return false;
+        }
+    }
     return true;
 }
 
@@ -67,16 +71,18 @@ PrintedLines::Line PrintedLines::parse(std::string_view line)
         const bool all_taken = result.second.kind != Kind::none;
         const bool begins_word = at == 0 || line[at - 1] == ' ';
         if (all_taken) {
-            if (line[at] == '%')
+            if (line[at] == '%') {
                 form += '%';
+            }
             form += line[at++];
         } else if (line[at] == '"') {
             const std::size_t end = std::min(line.find('"', at + 1), line.size());
             form += '"';
             add(line.substr(at + 1, end - at - 1), "%d");
             at = end;
-            if (at < line.size())
+            if (at < line.size()) {
                 form += line[at++];
+            }
         } else if (begins_word && (is_digit(line[at]) || line[at] == ' ')) {
             const std::size_t begin = std::min(line.find_first_not_of(' ', at), line.size());
             const std::size_t end = std::min(line.find(' ', begin), line.size());
@@ -85,15 +91,17 @@ PrintedLines::Line PrintedLines::parse(std::string_view line)
                 add(word, end - at == 4 ? "%4d" : "%d");
             } else {
                 form.append(line.substr(at, begin - at));
-                if (!word.empty() && is_digit(word.front()))
+                if (!word.empty() && is_digit(word.front())) {
                     add(word, "%d");
-                else
+                } else {
                     form.append(word);
+                }
             }
             at = end;
         } else {
-            if (line[at] == '%')
+            if (line[at] == '%') {
                 form += '%';
+            }
             form += line[at++];
         }
     }

@@ -55,9 +55,11 @@ std::string schema()
 
 bool is_blank(const unsigned char* bytes, std::size_t size)
 {
-    for (std::size_t i = 0; i < size; ++i)
-        if (bytes[i] != 0)
+    for (std::size_t i = 0; i < size; ++i) {
+        if (bytes[i] != 0) {
             return false;
+        }
+    }
     return true;
 }
 
@@ -69,13 +71,15 @@ void add_leaf(std::string& out, const Field& field, const unsigned char* at)
     }
     out += '"';
     if (is_number(field.form)) {
-        for (std::size_t i = 0; i < field.count; ++i)
+        for (std::size_t i = 0; i < field.count; ++i) {
             out += (i == 0 ? "" : ",") + std::to_string(get_number(field, at + i * field.width));
+        }
     } else if (field.form == Form::text || field.form == Form::secret) {
         out.append(reinterpret_cast<const char*>(at), strnlen(reinterpret_cast<const char*>(at), field.width));
     } else {
-        for (std::size_t i = 0; i < field.width; ++i)
+        for (std::size_t i = 0; i < field.width; ++i) {
             out += (i == 0 ? "" : ".") + std::to_string(at[i]);
+        }
     }
     out += '"';
 }
@@ -84,8 +88,9 @@ void add_tree(std::string& out, const Record& record, const unsigned char* at, b
 {
     for (const Field& field : record) {
         const unsigned char* const start = at + field.offset;
-        if (is_blank(start, field.size))
+        if (is_blank(start, field.size)) {
             continue;
+        }
         out += first ? "\n\"" : ",\n\"";
         first = false;
         out += field.name;
@@ -100,8 +105,9 @@ void add_tree(std::string& out, const Record& record, const unsigned char* at, b
             const char* before = "[";
             for (std::size_t i = 0; i < field.count; ++i) {
                 const unsigned char* const element = start + i * field.width;
-                if (is_blank(element, field.width))
+                if (is_blank(element, field.width)) {
                     continue;
+                }
                 out += before;
                 before = ",";
                 out += "{\"index\":" + std::to_string(i);
@@ -125,11 +131,13 @@ std::string tree(const GCfg& configuration)
 std::string script(GCfg& cfg)
 {
     const Configuration orig = blank();
-    if (initiate_diff(orig.get(), &cfg, 0, 0) != 0)
+    if (initiate_diff(orig.get(), &cfg, 0, 0) != 0) {
         std::abort();
+    }
     char* const text = GetDiff(orig.get(), &cfg);
-    if (!text)
+    if (!text) {
         std::abort();
+    }
     std::string result = text;
     std::free(text);
     finalize_diff();
@@ -138,25 +146,32 @@ std::string script(GCfg& cfg)
 
 Configuration configuration_of(std::string_view name)
 {
-    if (name == "blank")
+    if (name == "blank") {
         return blank();
-    if (name == "full")
+    }
+    if (name == "full") {
         return full();
-    if (name == "small")
+    }
+    if (name == "small") {
         return small();
-    if (name == "changed")
+    }
+    if (name == "changed") {
         return with_other_hostname();
+    }
     return nullptr;
 }
 
 std::string rendered(std::string_view what, GCfg& configuration)
 {
-    if (what == "record")
+    if (what == "record") {
         return {reinterpret_cast<const char*>(&configuration), sizeof(GCfg)};
-    if (what == "script")
+    }
+    if (what == "script") {
         return script(configuration);
-    if (what == "yang")
+    }
+    if (what == "yang") {
         return schema();
+    }
     return what == "tree" ? tree(configuration) : "";
 }
 

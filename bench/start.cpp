@@ -31,8 +31,9 @@ Command parse(const char* text)
     Command command;
     command.text = text;
     std::istringstream words(command.text);
-    for (std::string word; words >> word;)
+    for (std::string word; words >> word;) {
         command.words.push_back(word);
+    }
     return command;
 }
 
@@ -51,22 +52,26 @@ double microseconds(const timeval& time)
 void run(Command& command, const posix_spawn_file_actions_t& actions)
 {
     std::vector<char*> arguments;
-    for (std::string& word : command.words)
+    for (std::string& word : command.words) {
         arguments.push_back(word.data());
+    }
     arguments.push_back(nullptr);
 
     const auto start = std::chrono::steady_clock::now();
     pid_t child = 0;
-    if (const int error = posix_spawnp(&child, arguments.front(), &actions, nullptr, arguments.data(), environ))
+    if (const int error = posix_spawnp(&child, arguments.front(), &actions, nullptr, arguments.data(), environ)) {
         give_up(command, std::strerror(error));
+    }
     int status = 0;
     rusage used{};
-    if (wait4(child, &status, 0, &used) != child)
+    if (wait4(child, &status, 0, &used) != child) {
         give_up(command, std::strerror(errno));
+    }
     const std::chrono::duration<double, std::micro> elapsed = std::chrono::steady_clock::now() - start;
 
-    if (!WIFEXITED(status) || WEXITSTATUS(status) > 1)
+    if (!WIFEXITED(status) || WEXITSTATUS(status) > 1) {
         give_up(command, "failed");
+    }
     command.elapsed.push_back(elapsed.count());
     command.processor.push_back(microseconds(used.ru_utime) + microseconds(used.ru_stime));
 }
@@ -81,14 +86,17 @@ int main(int argc, char** argv)
         return EXIT_FAILURE;
     }
     std::vector<Command> commands;
-    for (int i = 2; i < argc; ++i)
+    for (int i = 2; i < argc; ++i) {
         commands.push_back(parse(argv[i]));
+    }
     posix_spawn_file_actions_t actions;
     posix_spawn_file_actions_init(&actions);
     posix_spawn_file_actions_addopen(&actions, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
-    for (int i = 0; i < runs; ++i)
-        for (Command& command : commands)
+    for (int i = 0; i < runs; ++i) {
+        for (Command& command : commands) {
             run(command, actions);
+        }
+    }
     posix_spawn_file_actions_destroy(&actions);
     for (Command& command : commands) {
         std::sort(command.processor.begin(), command.processor.end());

@@ -38,8 +38,9 @@ double median_time(int runs, const Function& function)
 {
     std::vector<double> times;
     function();
-    for (int i = 0; i < runs; ++i)
+    for (int i = 0; i < runs; ++i) {
         times.push_back(timed(function));
+    }
     return median(times);
 }
 

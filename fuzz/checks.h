@@ -12,8 +12,9 @@ namespace pondiff::fuzz {
 /// Ends the program with a message when something that must hold does not.
 inline void check(bool holds, const std::string& complaint)
 {
-    if (holds)
+    if (holds) {
         return;
+    }
     std::fprintf(stderr, "\nfuzz: %s\n", complaint.c_str());
     std::abort();
 }
@@ -25,8 +26,9 @@ inline bool every_check = false;
 inline bool chosen(const std::uint8_t* data, std::size_t size, std::uint32_t out_of)
 {
     std::uint32_t hash = 2166136261U; // FNV-1a
-    for (std::size_t i = 0; i < size; ++i)
+    for (std::size_t i = 0; i < size; ++i) {
         hash = (hash ^ data[i]) * 16777619U;
+    }
     return every_check || (hash >> 8U) % out_of == 0;
 }
 

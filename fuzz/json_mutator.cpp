@@ -68,8 +68,9 @@ std::string any_token(Random& random)
                                          "99999999999999999999",
                                          " ",
                                          "\n"};
-    if (random.one_in(2))
+    if (random.one_in(2)) {
         return random.any_of(tokens);
+    }
     const Place place = any_place(random);
     return '"' + std::string(place.field->name) + "\": ";
 }
@@ -80,8 +81,9 @@ std::string with_member(const std::string& document, const std::string& other)
     const std::size_t brace = document.find('{');
     const std::size_t begin = other.find('{');
     const std::size_t end = other.rfind('}');
-    if (brace == document.npos || begin == other.npos || end <= begin)
+    if (brace == document.npos || begin == other.npos || end <= begin) {
         return other;
+    }
     const bool first = document.find_first_not_of(" \n", brace + 1) == document.find('}', brace);
     return document.substr(0, brace + 1) + other.substr(begin + 1, end - begin - 1) + (first ? "" : ",") +
            document.substr(brace + 1);
@@ -115,8 +117,9 @@ std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t size, std::s
 {
     using namespace pondiff::fuzz;
     Random random(seed);
-    if (random.one_in(3))
+    if (random.one_in(3)) {
         return LLVMFuzzerMutate(data, size, max_size);
+    }
     std::string document = mutated({reinterpret_cast<const char*>(data), size}, random);
     document.resize(std::min(document.size(), max_size));
     std::memcpy(data, document.data(), document.size());

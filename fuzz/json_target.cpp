@@ -45,7 +45,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
     fuzz::check_kept(*configuration, false);
     // With all its zeros the document has 16 MB and takes seconds.
-    if (fuzz::chosen(data, size, 32768))
+    if (fuzz::chosen(data, size, 32768)) {
         fuzz::check_kept(*configuration, true);
+    }
     return 0;
 }

@@ -28,8 +28,9 @@ std::string first_difference(const void* a, const void* b)
 {
     std::string path;
     tool::for_each_difference(tool::gcfg_record, a, b, [&path](const tool::Leaf& leaf) {
-        if (path.empty())
+        if (path.empty()) {
             path = leaf.path.text();
+        }
     });
     return path;
 }
@@ -62,28 +63,34 @@ void Pair::patch(const std::vector<Patch>& patches)
     for (const Patch& patch : patches) {
         const std::size_t offset = patch.place.offset;
         apply(patch, *orig(), *cfg());
-        if (offset < first_ont || offset >= behind_onts)
+        if (offset < first_ont || offset >= behind_onts) {
             continue;
+        }
         const std::size_t ont = first_ont + (offset - first_ont) / sizeof(GPonOntCfg) * sizeof(GPonOntCfg);
-        for (std::size_t i = 0; i < GCFG_SERVICES; ++i)
+        for (std::size_t i = 0; i < GCFG_SERVICES; ++i) {
             tunnels.insert(ont + offsetof(GPonOntCfg, tunnel) + i * sizeof(GPonOntSelectiveTunnel));
+        }
     }
     for (const Patch& patch : patches) {
-        if (patch.side != Patch::Side::cfg)
+        if (patch.side != Patch::Side::cfg) {
             keep(old_record, patch.place.offset, patch.bytes.size(), false);
-        if (patch.side != Patch::Side::orig && patch.place.field->layout != tool::Layout::ended_list)
+        }
+        if (patch.side != Patch::Side::orig && patch.place.field->layout != tool::Layout::ended_list) {
             keep(new_record, patch.place.offset, patch.bytes.size(), false);
+        }
     }
-    for (const std::size_t tunnel : tunnels)
+    for (const std::size_t tunnel : tunnels) {
         keep(new_record, tunnel, sizeof(GPonOntSelectiveTunnel), true);
+    }
 }
 
 void Pair::check_patches() const
 {
     for (const Kept& kept : kept_) {
         const char* const now = records_[kept.record].bytes() + kept.offset;
-        if (std::memcmp(now, kept.bytes.data(), kept.bytes.size()) == 0)
+        if (std::memcmp(now, kept.bytes.data(), kept.bytes.size()) == 0) {
             continue;
+        }
         check(kept.any_order && sorted(now) == sorted(kept.bytes.data()),
               "a record was changed at offset " + std::to_string(kept.offset));
     }
@@ -91,13 +98,16 @@ void Pair::check_patches() const
 
 void Pair::restore(bool check_all)
 {
-    for (const Kept& kept : kept_)
+    for (const Kept& kept : kept_) {
         std::memcpy(records_[kept.record].bytes() + kept.offset, reinterpret_cast<const char*>(&base()) + kept.offset,
                     kept.bytes.size());
+    }
     kept_.clear();
-    for (const Record& record : records_)
-        if (check_all && std::memcmp(record.bytes(), &base(), sizeof(GCfg)) != 0)
+    for (const Record& record : records_) {
+        if (check_all && std::memcmp(record.bytes(), &base(), sizeof(GCfg)) != 0) {
             check(false, "a record was changed: " + first_difference(record.bytes(), &base()));
+        }
+    }
 }
 
 } // namespace pondiff::fuzz

@@ -19,13 +19,16 @@ std::string full_diff_of(Pair& pair, const Scenario& scenario)
 /// back to the top level and "commit" follow.
 void check_by_list(Pair& pair, const Scenario& scenario, const std::string& text)
 {
-    if (scenario.common == 1)
+    if (scenario.common == 1) {
         return;
+    }
     check(initiate_diff(pair.orig(), pair.cfg(), scenario.all, scenario.common) == 0, "no session");
     std::string lines;
-    for (const std::string& element : run("getdiff_GCfg", pair.orig(), pair.cfg()))
-        if (!element.empty() && element[0] != '\n')
+    for (const std::string& element : run("getdiff_GCfg", pair.orig(), pair.cfg())) {
+        if (!element.empty() && element[0] != '\n') {
             lines += element + '\n';
+        }
+    }
     check(text.compare(0, lines.size(), lines) == 0, "a caller's list holds another script");
     const std::string rest = text.substr(lines.size());
     check(rest == "" || rest == "commit\n" || rest == "exit\ncommit\n" || rest == "exit\nexit\ncommit\n",

@@ -30,13 +30,16 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     static const auto configuration = std::make_unique<GCfg>();
     auto* const bytes = reinterpret_cast<char*>(configuration.get());
     const fuzz::Scenario scenario = fuzz::parse_scenario({reinterpret_cast<const char*>(data), size});
-    for (const fuzz::Patch& patch : scenario.patches)
+    for (const fuzz::Patch& patch : scenario.patches) {
         std::memcpy(bytes + patch.place.offset, patch.bytes.data(), patch.bytes.size());
+    }
     fuzz::check_kept(*configuration, false, fuzz::chosen(data, size, 8));
     // With all its zeros the document has 16 MB and takes seconds.
-    if (fuzz::chosen(data, size, 32768))
+    if (fuzz::chosen(data, size, 32768)) {
         fuzz::check_kept(*configuration, true, true);
-    for (const fuzz::Patch& patch : scenario.patches)
+    }
+    for (const fuzz::Patch& patch : scenario.patches) {
         std::memset(bytes + patch.place.offset, 0, patch.bytes.size());
+    }
     return 0;
 }

@@ -17,9 +17,11 @@ namespace {
 std::vector<std::filesystem::path> files_in(const std::filesystem::path& folder)
 {
     std::vector<std::filesystem::path> files;
-    for (const auto& entry : std::filesystem::directory_iterator(folder))
-        if (entry.is_regular_file())
+    for (const auto& entry : std::filesystem::directory_iterator(folder)) {
+        if (entry.is_regular_file()) {
             files.push_back(entry.path());
+        }
+    }
     std::sort(files.begin(), files.end());
     return files;
 }
@@ -44,8 +46,9 @@ int main(int argc, char** argv)
             LLVMFuzzerTestOneInput(content.data(), content.size());
         }
         std::printf("%zu inputs in %s\n", files.size(), argv[i]);
-        if (files.empty())
+        if (files.empty()) {
             return 1;
+        }
     }
     return argc > 1 ? 0 : 1;
 }

@@ -28,8 +28,9 @@ std::optional<Number> number_of(std::string_view digits)
 {
     Number number{};
     const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
-    if (error != std::errc{} || end != digits.data() + digits.size())
+    if (error != std::errc{} || end != digits.data() + digits.size()) {
         return std::nullopt;
+    }
     return number;
 }
 
@@ -52,8 +53,9 @@ void append_quoted(std::string& out, std::string_view bytes)
 
 std::optional<std::string> unquoted(std::string_view text)
 {
-    if (text.size() < 2 || text.front() != '"' || text.back() != '"')
+    if (text.size() < 2 || text.front() != '"' || text.back() != '"') {
         return std::nullopt;
+    }
     text = text.substr(1, text.size() - 2);
     std::string bytes;
     while (!text.empty()) {
@@ -105,11 +107,13 @@ std::optional<Patch> parse_patch(Patch::Side side, std::string_view rest)
     Patch patch;
     patch.side = side;
     patch.place = find_place(take_until(rest, ' '));
-    if (patch.place.field == nullptr)
+    if (patch.place.field == nullptr) {
         return std::nullopt;
+    }
     std::optional<std::string> bytes = bytes_of(*patch.place.field, rest);
-    if (!bytes)
+    if (!bytes) {
         return std::nullopt;
+    }
     patch.bytes = *std::move(bytes);
     return patch;
 }
@@ -118,20 +122,22 @@ std::optional<Call> parse_call(std::string_view rest)
 {
     Call call;
     call.operation = find_operation(take_until(rest, ' '));
-    if (call.operation == nullptr)
+    if (call.operation == nullptr) {
         return std::nullopt;
+    }
     std::size_t numbers = 0;
     while (!rest.empty()) {
         const std::string_view argument = take_until(rest, ' ');
         const auto number = number_of<int>(argument);
-        if (argument == "no-orig")
+        if (argument == "no-orig") {
             call.no_orig = true;
-        else if (argument == "no-cfg")
+        } else if (argument == "no-cfg") {
             call.no_cfg = true;
-        else if (number && numbers < call.operation->numbers)
+        } else if (number && numbers < call.operation->numbers) {
             call.numbers[numbers++] = *number;
-        else if (call.operation->takes_word)
+        } else if (call.operation->takes_word) {
             call.word = argument.substr(0, argument.find('\0'));
+        }
     }
     return call;
 }
@@ -164,8 +170,9 @@ bool parse_line(std::string_view line, Scenario& scenario)
         return call.has_value();
     }
     const auto* const word = std::find(std::begin(side_words), std::end(side_words), verb);
-    if (word == std::end(side_words))
+    if (word == std::end(side_words)) {
         return false;
+    }
     const std::optional<Patch> patch = parse_patch(static_cast<Patch::Side>(word - side_words), line);
     if (patch) {
         scenario.patches.push_back(*patch);
@@ -178,10 +185,11 @@ void print_patch(const Patch& patch, std::string& out)
     const tool::Field& field = *patch.place.field;
     out += side_words[static_cast<int>(patch.side)];
     out += ' ' + patch.place.path + ' ';
-    if (tool::is_number(field.form))
+    if (tool::is_number(field.form)) {
         out += std::to_string(tool::get_number(field, reinterpret_cast<const unsigned char*>(patch.bytes.data())));
-    else
+    } else {
         append_quoted(out, without_zeros_behind(patch.bytes));
+    }
     out += '\n';
 }
 
@@ -189,10 +197,12 @@ void print_call(const Call& call, std::string& out)
 {
     out += "call ";
     out += call.operation->name;
-    if (call.operation->takes_word && !call.word.empty())
+    if (call.operation->takes_word && !call.word.empty()) {
         out += ' ' + call.word;
-    for (std::size_t i = 0; i < call.operation->numbers; ++i)
+    }
+    for (std::size_t i = 0; i < call.operation->numbers; ++i) {
         out += ' ' + std::to_string(call.numbers[i]);
+    }
     out += call.no_orig ? " no-orig" : "";
     out += call.no_cfg ? " no-cfg" : "";
     out += '\n';
@@ -219,13 +229,16 @@ Place find_place(std::string_view path)
         const std::string_view name = take_until(path, '.');
         const auto* const field =
             std::find_if(record->begin(), record->end(), [name](const tool::Field& f) { return f.name == name; });
-        if (field == record->end())
+        if (field == record->end()) {
             return {};
+        }
         std::size_t index = 0;
-        if (field->array)
+        if (field->array) {
             index = number_of<std::size_t>(take_until(path, '.')).value_or(std::numeric_limits<std::size_t>::max());
-        if (index >= field->count)
+        }
+        if (index >= field->count) {
             return {};
+        }
         place.field = field;
         place.offset += field->offset + index * field->width;
         record = field->record;
@@ -261,10 +274,12 @@ Scenario parse_scenario(std::string_view text)
 std::string print_scenario(const Scenario& scenario)
 {
     std::string out = "switches " + std::to_string(scenario.all) + ' ' + std::to_string(scenario.common) + '\n';
-    for (const Patch& patch : scenario.patches)
+    for (const Patch& patch : scenario.patches) {
         print_patch(patch, out);
-    for (const Call& call : scenario.calls)
+    }
+    for (const Call& call : scenario.calls) {
         print_call(call, out);
+    }
     return out;
 }
 

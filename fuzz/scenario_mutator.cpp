@@ -38,12 +38,15 @@ Call any_call(Random& random)
         call.operation =
             begin_operations() + random.below(static_cast<std::size_t>(end_operations() - begin_operations()));
     } while (call.operation->costly && !random.one_in(3));
-    for (int& number : call.numbers)
+    for (int& number : call.numbers) {
         number = random.any_of(telling);
-    if (call.operation->takes_word)
+    }
+    if (call.operation->takes_word) {
         call.word = random.any_of(known_words());
-    if (call.operation->takes_word && random.one_in(16))
+    }
+    if (call.operation->takes_word && random.one_in(16)) {
         call.word += 'x';
+    }
     call.no_orig = random.one_in(32);
     call.no_cfg = random.one_in(32);
     return call;
@@ -127,9 +130,11 @@ Scenario scenario_of(const std::uint8_t* data, std::size_t size)
 template <class Element>
 void take_some(std::vector<Element>& elements, const std::vector<Element>& others, Random& random)
 {
-    for (const Element& other : others)
-        if (random.one_in(2))
+    for (const Element& other : others) {
+        if (random.one_in(2)) {
             elements.push_back(other);
+        }
+    }
 }
 
 } // namespace
@@ -156,7 +161,8 @@ std::size_t LLVMFuzzerCustomCrossOver(const std::uint8_t* data1, std::size_t siz
     const Scenario other = scenario_of(data2, size2);
     take_some(scenario.patches, other.patches, random);
     take_some(scenario.calls, other.calls, random);
-    while (scenario.calls.size() > most_calls)
+    while (scenario.calls.size() > most_calls) {
         scenario.calls.erase(scenario.calls.begin() + static_cast<std::ptrdiff_t>(random.below(scenario.calls.size())));
+    }
     return store(scenario, out, max_size);
 }

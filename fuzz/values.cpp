@@ -20,13 +20,15 @@ std::string any_text(std::size_t width, Random& random)
         text.assign(width, static_cast<char>(random.below(256)));
         break;
     case 2:
-        while (text.size() < width)
+        while (text.size() < width) {
             text += random.any_of(telling) + 'x';
+        }
         break;
     default:
         text.assign(random.below(width + 1), 'n');
-        for (char& c : text)
+        for (char& c : text) {
             c = static_cast<char>(random.below(256));
+        }
     }
     text.resize(width);
     return text;
@@ -85,16 +87,18 @@ Place any_place(Random& random)
         place.offset += place.field->offset + index * place.field->width;
         place.path += place.path.empty() ? "" : ".";
         place.path += place.field->name;
-        if (place.field->array)
+        if (place.field->array) {
             place.path += '.' + std::to_string(index);
+        }
     }
     return place;
 }
 
 std::string any_bytes(const tool::Field& field, Random& random)
 {
-    if (field.form == tool::Form::text || field.form == tool::Form::secret)
+    if (field.form == tool::Form::text || field.form == tool::Form::secret) {
         return any_text(field.width, random);
+    }
     std::string bytes(field.width, '\0');
     if (tool::is_number(field.form)) {
         tool::set_number(field, reinterpret_cast<unsigned char*>(bytes.data()), any_number(field, random));
@@ -102,8 +106,9 @@ std::string any_bytes(const tool::Field& field, Random& random)
     }
     const bool same = random.one_in(2);
     const auto first = static_cast<char>(random.below(256));
-    for (char& byte : bytes)
+    for (char& byte : bytes) {
         byte = same ? first : static_cast<char>(random.below(256));
+    }
     return bytes;
 }
 
@@ -114,8 +119,9 @@ void add_existence(const Patch& patch, Scenario& scenario, Random& random)
         for (const char* const name : {"exist", "exists"}) {
             Patch existence;
             existence.place = find_place(path.substr(0, dot + 1) + name);
-            if (existence.place.field == nullptr)
+            if (existence.place.field == nullptr) {
                 continue;
+            }
             existence.side = random.one_in(2) ? Patch::Side::orig : Patch::Side::cfg;
             existence.bytes.resize(existence.place.field->width);
             existence.bytes[0] = static_cast<char>(random.below(2));
@@ -128,8 +134,9 @@ void add_existence(const Patch& patch, Scenario& scenario, Random& random)
 void add_any_patch(Scenario& scenario, Random& random)
 {
     scenario.patches.push_back(any_patch(random));
-    if (random.one_in(2))
+    if (random.one_in(2)) {
         add_existence(Patch(scenario.patches.back()), scenario, random);
+    }
 }
 
 } // namespace pondiff::fuzz

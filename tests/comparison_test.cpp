@@ -110,8 +110,9 @@ TEST_F(Compared, PartsThatReachBeyondAreRead)
 {
     constexpr std::size_t inside = 2 * block;
     const Comparison comparison(lhs.data() + block, rhs.data() + block, inside);
-    for (const std::size_t at : {std::size_t{0}, block, block + 300, 3 * block - 1, 3 * block, 4 * block - 1})
+    for (const std::size_t at : {std::size_t{0}, block, block + 300, 3 * block - 1, 3 * block, 4 * block - 1}) {
         change(at);
+    }
     EXPECT_FALSE(differ(block, inside)) << "all that is known";
     EXPECT_FALSE(differ(3 * block - 300, 300)) << "its end";
     EXPECT_TRUE(differ(block, inside + 1)) << "one byte more";
@@ -181,8 +182,9 @@ TEST_F(Compared, ManyBlocksAndWhatLiesBehindThem)
     constexpr std::size_t known = known_blocks * block;
     lhs.assign(known + 2 * block, 'v');
     rhs = lhs;
-    for (const std::size_t at : {std::size_t{0}, 63 * block, 64 * block, 65 * block, known - 1})
+    for (const std::size_t at : {std::size_t{0}, 63 * block, 64 * block, 65 * block, known - 1}) {
         change(at);
+    }
     const Comparison comparison(lhs.data(), rhs.data(), lhs.size());
     for (std::size_t at = 0; at < known; at += block) {
         const std::size_t number = at / block;
@@ -211,9 +213,11 @@ class SortedTunnels : public testing::Test {
 
     SortedTunnels()
     {
-        for (int ont = first; ont <= last; ++ont)
-            for (GCfg* const configuration : {session.orig, session.cfg})
+        for (int ont = first; ont <= last; ++ont) {
+            for (GCfg* const configuration : {session.orig, session.cfg}) {
                 configuration->pon.ont[ont].exist = 1;
+            }
+        }
     }
 
     /// 7, 5 and 6 in every service of the ONT.
@@ -221,17 +225,19 @@ class SortedTunnels : public testing::Test {
     {
         for (GPonOntSelectiveTunnel& tunnel : ont.tunnel) {
             const s16 vids[] = {7, 5, 6};
-            for (int i = 0; i < GCFG_TUNNEL_VIDS; ++i)
+            for (int i = 0; i < GCFG_TUNNEL_VIDS; ++i) {
                 tunnel.uvid[i] = i < 3 ? vids[i] : s16{-1};
+            }
         }
     }
 
     static std::string tunnels()
     {
         std::string text;
-        for (int service = 0; service < GCFG_SERVICES; ++service)
+        for (int service = 0; service < GCFG_SERVICES; ++service) {
             text += "service " + std::string(service < 10 ? "   " : "  ") + std::to_string(service) +
                     " selective-tunnel uvid 5-7\n";
+        }
         return text;
     }
 
@@ -246,8 +252,9 @@ TEST_F(SortedTunnels, DoNotHideTheChangeOfTheNextOnt)
     for (int ont = first; ont < last; ++ont) {
         set_tunnels(session.cfg->pon.ont[ont]);
         for (GPonOntSelectiveTunnel& tunnel : session.orig->pon.ont[ont].tunnel) {
-            for (int i = 0; i < GCFG_TUNNEL_VIDS; ++i)
+            for (int i = 0; i < GCFG_TUNNEL_VIDS; ++i) {
                 tunnel.uvid[i] = static_cast<s16>(i < 3 ? 5 + i : -1);
+            }
         }
         session.cfg->pon.ont[ont + 1].fec_up = 1;
     }

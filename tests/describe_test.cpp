@@ -347,7 +347,7 @@ TEST(Describe, WhatIsNotEnteredIsLeftOut)
     std::size_t users = 0;
     for_each_leaf(
         user_record, [](std::size_t offset, std::size_t) { return offset != offsetof(GSystemUser, group); },
-        [&users](const Leaf&) { users++; });
+        [&users](const Leaf&) { ++users; });
     EXPECT_EQ(users, 5U) << "all but the groups";
 }
 
@@ -403,7 +403,7 @@ TEST(Describe, EveryLeafCountsOnceWhenAllDiffer)
     const auto b = blank();
     std::memset(b.get(), 0xFF, sizeof(GCfg));
     std::size_t leaves = 0;
-    for_each_leaf(gcfg_record, [&leaves](const Leaf&) { leaves++; });
+    for_each_leaf(gcfg_record, [&leaves](const Leaf&) { ++leaves; });
     EXPECT_EQ(count_differing_fields(*a, *b), leaves);
     EXPECT_GT(leaves, 532U * (16 * 42 + 16 * 4 + 2 * 16)) << "those of the ONTs' arrays alone";
 }

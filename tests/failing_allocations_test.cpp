@@ -125,8 +125,9 @@ TEST_F(FailingAllocations, EachBlock)
         PON_BLOCKS(NAME)
 #undef NAME
     };
-    for (char(&block)[16] : blocks)
+    for (char(&block)[16] : blocks) {
         fail_each_allocation(block, [&] { return GetBlockDiff(session.orig, session.cfg, block); });
+    }
 }
 
 TEST_F(FailingAllocations, ASessionGoesOnWhereAFailedOperationFoundIt)
@@ -143,9 +144,11 @@ namespace {
 template <int Slots>
 bool is_empty(char* const (&names)[Slots])
 {
-    for (const char* const name : names)
-        if (name != nullptr)
+    for (const char* const name : names) {
+        if (name != nullptr) {
             return false;
+        }
+    }
     return true;
 }
 
@@ -189,16 +192,18 @@ TEST_F(FailingAllocations, OfASessionLeaveAnEmptyOneThatCanBeClosedAndOpenedAgai
                 happened = failure.happened();
             }
             ASSERT_EQ(status, happened ? -1 : 0);
-            if (!happened)
+            if (!happened) {
                 break;
+            }
             expect_no_names();
             ASSERT_STREQ(current_view.name, "root");
             ASSERT_FALSE(taken(GetAlarmDiff(session.orig, session.cfg)).empty());
             if (nth % 2 == 0) {
                 ASSERT_EQ(finalize_diff(), 0);
             }
-            if (nth % 3 != 0)
+            if (nth % 3 != 0) {
                 continue;
+            }
             session.open(1, 2);
             ASSERT_EQ(taken(GetAlarmDiff(session.orig, session.cfg)), whole);
             ASSERT_EQ(vlans(), named);

@@ -14,9 +14,11 @@ using Placed = std::pair<std::string, std::string>;
 
 bool enters_a_view(const std::string& line)
 {
-    for (const char* const verb : {"interface ", "profile ", "template "})
-        if (line.compare(0, std::strlen(verb), verb) == 0)
+    for (const char* const verb : {"interface ", "profile ", "template "}) {
+        if (line.compare(0, std::strlen(verb), verb) == 0) {
             return true;
+        }
+    }
     return false;
 }
 
@@ -36,8 +38,9 @@ std::vector<Placed> commands_of(const Elements& elements)
                 views.push_back(line);
             } else if (!line.empty()) {
                 std::string where;
-                for (const std::string& view : views)
+                for (const std::string& view : views) {
                     where += view + '\n';
+                }
                 commands.emplace_back(where, line);
             }
         }
@@ -50,8 +53,9 @@ bool is_part_of(const std::vector<Placed>& some, const std::vector<Placed>& all)
     auto from = all.begin();
     for (const Placed& command : some) {
         from = std::find(from, all.end(), command);
-        if (from == all.end())
+        if (from == all.end()) {
             return false;
+        }
         ++from;
     }
     return true;
@@ -100,8 +104,9 @@ std::vector<int> chosen(int count)
     const int few = exhaustive ? 1500 : 24;
     const int some = exhaustive ? 200 : 24;
     std::vector<int> numbers;
-    for (int nth = 1; nth <= count; nth += count <= few || nth < some / 2 ? 1 : 2 * (count / some) - 1)
+    for (int nth = 1; nth <= count; nth += count <= few || nth < some / 2 ? 1 : 2 * (count / some) - 1) {
         numbers.push_back(nth); // odd steps: texts and nodes by turns
+    }
     return numbers;
 }
 

@@ -106,8 +106,9 @@ TEST(CommandList, GoesAwayWithoutItsTexts)
 TEST(CommandList, HoldsManyElements)
 {
     List<char> list;
-    for (int i = 0; i < 100000; ++i)
+    for (int i = 0; i < 100000; ++i) {
         list.push_back(i % 2 ? a : b);
+    }
     EXPECT_EQ(list.size(), 100000);
     EXPECT_EQ(elements(list)[99999], "a");
 }

@@ -54,9 +54,11 @@ std::string word(const char* kind, int slot)
 
 void fill_all(GCfg& cfg)
 {
-    for (const Kind& kind : kinds)
-        for (int slot = 0; slot < kind.slots; ++slot)
+    for (const Kind& kind : kinds) {
+        for (int slot = 0; slot < kind.slots; ++slot) {
             kind.set(cfg, slot, 1, word(kind.name, slot));
+        }
+    }
     for (int slot = 0; slot < 32; ++slot) {
         cfg.pon.network.terminal_vlan[slot].exists = 1;
         put(cfg.pon.network.terminal_vlan[slot].name, word("terminal", slot));
@@ -171,8 +173,9 @@ TEST_F(NameTables, OutsideATableEveryLookupSaysUnassigned)
             EXPECT_STREQ(kind.get_old(slot), "unassigned");
         }
     }
-    for (const int slot : {-1, -2, 32, 33, 100000, INT_MAX, INT_MIN})
+    for (const int slot : {-1, -2, 32, 33, 100000, INT_MAX, INT_MIN}) {
         EXPECT_STREQ(getTerminalVlanName(slot), "unassigned");
+    }
 }
 
 TEST_F(NameTables, AnEmptyNameIsAName)
@@ -237,8 +240,9 @@ TEST_F(NameTables, TerminalVlansAndUsers)
         EXPECT_STREQ(terminalvlan2id_connection[slot], slot == 1 ? nullptr : name.c_str());
         EXPECT_STREQ(getTerminalVlanName(slot), slot == 1 ? nullptr : name.c_str());
     }
-    for (int slot = 0; slot < 16; ++slot)
+    for (int slot = 0; slot < 16; ++slot) {
         EXPECT_STREQ(user2id_connection[slot], slot == 1 ? nullptr : word("user", slot).c_str());
+    }
 }
 
 // ------------------------------------------------------------------------------------------------------------- ONTs
@@ -246,8 +250,9 @@ TEST_F(NameTables, TerminalVlansAndUsers)
 TEST_F(NameTables, OntsAreNamedByTheirSerialNumbers)
 {
     session.cfg->system.settings.ont_sn_format = 1;
-    for (int slot = 0; slot < 532; ++slot)
+    for (int slot = 0; slot < 532; ++slot) {
         put(session.cfg->pon.ont[slot].serial, {'G', 'P', 'O', 'N', 0, 0, slot / 256, slot % 256});
+    }
     session.open();
     EXPECT_STREQ(ont2id_connection[0], "0000000000000000") << "whatever its serial number";
     EXPECT_STREQ(ont2id_connection[1], "47504F4E00000001");
@@ -300,8 +305,9 @@ TEST_F(NameTables, RedefinitionsKeepTheirVlanIds)
         session.orig->pon.olt.general.profile_olt_dhcpra_redefinition[slot].vid = 4;
     }
     session.open();
-    for (int slot = 0; slot < 16; ++slot)
+    for (int slot = 0; slot < 16; ++slot) {
         EXPECT_EQ(profile_dhcpra_redefinition2id_connection[slot], 65535 - slot);
+    }
 }
 
 TEST_F(NameTables, AddressTablesHoldEveryAddressAsDottedText)
@@ -347,11 +353,13 @@ TEST_F(NameTables, AShorterAddressReplacesALongerOneOfAnEarlierSession)
 
 TEST_F(NameTables, TheOldOntTableStaysEmpty)
 {
-    for (GPonOntCfg& ont : session.orig->pon.ont)
+    for (GPonOntCfg& ont : session.orig->pon.ont) {
         put(ont.serial, {'A', 'B', 'C', 'D', 1, 2, 3, 4});
+    }
     session.open();
-    for (const char* name : def_ont2id_connection)
+    for (const char* name : def_ont2id_connection) {
         EXPECT_EQ(name, nullptr);
+    }
 }
 
 // -------------------------------------------------------------------------------------------------------- life cycle
@@ -383,8 +391,9 @@ TEST_F(NameTables, OpeningTwiceKeepsOnlyTheSecondSession)
     session.open();
     *session.orig = GCfg{};
     *session.cfg = GCfg{};
-    for (const Kind& kind : kinds)
+    for (const Kind& kind : kinds) {
         kind.set(*session.cfg, 1, 1, "second");
+    }
     session.open();
     for (const Kind& kind : kinds) {
         SCOPED_TRACE(kind.name);
@@ -472,7 +481,8 @@ TEST_F(NameTables, PreparingMovesToTheTopLevelAndLeavesTheKey)
     current_view = {"vlan-view", {9, 8, 7, 6, 5, 4, 3, 2, 1, 0}};
     session.open();
     EXPECT_STREQ(current_view.name, "root");
-    for (int slot = 0; slot < 10; ++slot)
+    for (int slot = 0; slot < 10; ++slot) {
         EXPECT_EQ(current_view.key[slot], 9 - slot);
+    }
     current_view = {"root", {}};
 }

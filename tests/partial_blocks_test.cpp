@@ -75,8 +75,9 @@ TEST_F(PartialBlocks, EqualConfigurationsGiveNavigationsAndCommit)
 {
     session.settle();
     for (const char* const name : {"olt", "network", "backup", "cli", "config", "management", "ntp", "snmp", "ssh",
-                                   "source_guard", "telnet", "logging", "user", "route"})
+                                   "source_guard", "telnet", "logging", "user", "route"}) {
         EXPECT_EQ(block(name), nothing) << name;
+    }
 }
 
 TEST_F(PartialBlocks, UnknownNameSelectsNothing)
@@ -85,8 +86,9 @@ TEST_F(PartialBlocks, UnknownNameSelectsNothing)
     for (const char* const unknown :
          {"",      "o",      "ol",      "olts",         "OLT",      " olt",          "olt ",   "system",
           "pon",   "http",   "https",   "alarm",        "web",      "log",           "syslog", "tftp",
-          "users", "routes", "routing", "source-guard", "settings", "terminal-vlans"})
+          "users", "routes", "routing", "source-guard", "settings", "terminal-vlans"}) {
         EXPECT_EQ(block(unknown), nothing) << unknown;
+    }
 }
 
 TEST_F(PartialBlocks, LoggingShowsEitherRecordWithoutTheOther)

@@ -52,8 +52,9 @@ class PartialProfiles : public PartialDiff, public testing::WithParamInterface<K
 
     void change_every_kind(int index, const std::string& name) const
     {
-        for (const Kind& any : kinds)
+        for (const Kind& any : kinds) {
             change(any, index < 0 ? any.slots + index : index, name);
+        }
     }
 
     std::string shown(const std::string& name) const
@@ -93,11 +94,13 @@ TEST_P(PartialProfiles, OtherIdShowsThatSlotAlone)
 
 TEST_P(PartialProfiles, IdBeyondTheSlotsSelectsNothing)
 {
-    for (int index = 0; index < 32; ++index)
+    for (int index = 0; index < 32; ++index) {
         change_every_kind(index, "profile");
+    }
     session.open();
-    for (const int id : {kind.slots, kind.slots + 1, 2 * kind.slots, 1000000, INT_MAX})
+    for (const int id : {kind.slots, kind.slots + 1, 2 * kind.slots, 1000000, INT_MAX}) {
         EXPECT_EQ(profile(kind.name, id), nothing) << id;
+    }
 }
 
 TEST_P(PartialProfiles, EqualSlotIsShownUnderPrintAllWhenAskedForById)

@@ -156,10 +156,12 @@ TEST_F(PartialOddity, OutsideASessionTheScriptStartsAtTheTopLevelAndNamesAreEmpt
 
 TEST_F(PartialOddity, TextThatCannotBeHadWholeIsNullAndTheScriptStaysWhereItWas)
 {
-    for (int i = 0; i < 32; ++i)
+    for (int i = 0; i < 32; ++i) {
         add_terminal_vlan(i, "sixteen-letters!");
-    for (GSystemRouteCfg& route : session.cfg->system.services.routing.route)
+    }
+    for (GSystemRouteCfg& route : session.cfg->system.services.routing.route) {
         route.mask = 24;
+    }
     session.open();
     EXPECT_NE(headers(), "");
     char route[] = "route";

@@ -83,8 +83,10 @@ std::string buffer_after(const std::string& command, std::size_t size, std::size
 
 TEST(Placeholders, ATemplateWithoutAnyComesBackAsItIs)
 {
-    for (const char* text : {"", "ip ntp enable", "$ I D $id1 $Id1 ID1 $I", "I$D1", "100% %s %d %n \"a\"\nsecond line"})
+    for (const char* text :
+         {"", "ip ntp enable", "$ I D $id1 $Id1 ID1 $I", "I$D1", "100% %s %d %n \"a\"\nsecond line"}) {
         EXPECT_EQ(numbered(text), text);
+    }
 }
 
 TEST(Placeholders, EachSlotStandsInFourCharacters)
@@ -113,15 +115,17 @@ TEST(Placeholders, WideNumbersAreCutToTheirFirstFourCharacters)
 
 TEST(Placeholders, ANumberOutsideTheKeyIsNoPlaceholder)
 {
-    for (const char* text : {"a $ID12 b", "a $ID-1 b", "$ID10", "$ID 10", "$ID+10", "$ID-9", "$ID  -1", "$ID99"})
+    for (const char* text : {"a $ID12 b", "a $ID-1 b", "$ID10", "$ID 10", "$ID+10", "$ID-9", "$ID  -1", "$ID99"}) {
         EXPECT_EQ(numbered(text), text);
+    }
 }
 
 TEST(Placeholders, ANumberOfTooManyDigitsIsOutsideTheKey)
 {
     for (const char* text : {"$ID2147483648", "$ID4294967297", "$ID-4294967295", "$ID99999999999999999999",
-                             "$ID18446744073709551617", "$ID-18446744073709551615"})
+                             "$ID18446744073709551617", "$ID-18446744073709551615"}) {
         EXPECT_EQ(numbered(text), text);
+    }
     EXPECT_EQ(numbered("$ID" + std::string(5000, '1')), "$ID" + std::string(5000, '1'));
 }
 
@@ -222,17 +226,19 @@ TEST(Placeholders, LongTextsAreNotCut)
 TEST_F(NamedCommands, ShowTheirFirstIdentifierAsAText)
 {
     session.open();
-    for (const NamedCommand& named : named_commands)
+    for (const NamedCommand& named : named_commands) {
         EXPECT_EQ(substituted(std::string(named.begin) + "$ID0 enable \"7\"", {3}),
                   std::string(named.named) + "enable \"7\"");
+    }
 }
 
 TEST_F(NamedCommands, ShowFurtherIdentifiersAsNumbers)
 {
     session.open();
-    for (const NamedCommand& named : named_commands)
+    for (const NamedCommand& named : named_commands) {
         EXPECT_EQ(substituted(std::string(named.begin) + "$ID0 to $ID1, $ID0, $ID", {3, 12}),
                   std::string(named.named) + "to   12,    3,    3");
+    }
 }
 
 TEST_F(NamedCommands, ThatEndBehindThePlaceholderHaveAnEmptyRest)
@@ -345,10 +351,12 @@ TEST_F(NamedCommands, ANameThatFillsItsFieldHasNoTerminator)
 TEST_F(NamedCommands, LongTemplatesAreNotCut)
 {
     session.open();
-    for (const NamedCommand& named : named_commands)
-        for (const std::size_t length : {970U, 980U, 990U, 1000U, 1010U, 1020U, 1030U, 5000U})
+    for (const NamedCommand& named : named_commands) {
+        for (const std::size_t length : {970U, 980U, 990U, 1000U, 1010U, 1020U, 1030U, 5000U}) {
             EXPECT_EQ(substituted(named.begin + ("$ID0 " + std::string(length, 'v')) + "$ID1", {3, 4}),
                       named.named + std::string(length, 'v') + "   4");
+        }
+    }
 }
 
 TEST_F(NamedCommands, UsersAreNamelessOutsideASession)

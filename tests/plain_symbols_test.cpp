@@ -62,8 +62,9 @@ class PlainSymbols : public testing::Test {
             for (const int common : {0, 1, 2}) {
                 session.open(all, common);
                 for (const view_state& from : {view_state{"root", {}}, view_state{"configure-view", {}},
-                                               view_state{"if-ont-view", {130}}, view_state{"vlan-view", {4}}})
+                                               view_state{"if-ont-view", {130}}, view_state{"vlan-view", {4}}}) {
                     EXPECT_EQ(outcome(from, twin), outcome(from, target)) << from.name << ' ' << all << ' ' << common;
+                }
             }
         }
         session.open(0, 0);
@@ -182,18 +183,20 @@ TEST_F(PlainSymbols, TerminalVlanHeaders)
 
 TEST_F(PlainSymbols, Ont)
 {
-    for (const int index : {0, 130, 531, -1})
+    for (const int index : {0, 130, 531, -1}) {
         expect_same([&] { return GetGponOntDiff_c(&orig->pon.ont[130], &cfg->pon.ont[130], index); },
                     [&] { return GetGponOntDiff(&orig->pon.ont[130], &cfg->pon.ont[130], index); });
+    }
     EXPECT_EQ(taken(GetGponOntDiff_c(&orig->pon.ont[130], &cfg->pon.ont[130], 131)),
               "configure terminal\ninterface ont 2/3\nexit\nexit\n");
 }
 
 TEST_F(PlainSymbols, Channel)
 {
-    for (const int index : {0, 3, 7, -1})
+    for (const int index : {0, 3, 7, -1}) {
         expect_same([&] { return GetGponChannelDiff_c(&orig->pon.olt.channel[3], &cfg->pon.olt.channel[3], index); },
                     [&] { return GetGponChannelDiff(&orig->pon.olt.channel[3], &cfg->pon.olt.channel[3], index); });
+    }
     EXPECT_EQ(taken(GetGponChannelDiff_c(&orig->pon.olt.channel[3], &cfg->pon.olt.channel[3], 6)),
               "configure terminal\ninterface gpon-port    6\nfec\nexit\nexit\n");
 }
@@ -203,10 +206,12 @@ TEST_F(PlainSymbols, Profile)
     char vlan[] = "vlan";
     char voice[] = "voice";
     char unknown[] = "alloc";
-    for (char* const kind : {vlan, voice, unknown, static_cast<char*>(nullptr)})
-        for (const int id : {-1, 0, 2, 4, 31, 32})
+    for (char* const kind : {vlan, voice, unknown, static_cast<char*>(nullptr)}) {
+        for (const int id : {-1, 0, 2, 4, 31, 32}) {
             expect_same([&] { return GetProfileDiff_c(&orig->pon, &cfg->pon, kind, id); },
                         [&] { return GetProfileDiff(&orig->pon, &cfg->pon, kind, id); });
+        }
+    }
     EXPECT_EQ(taken(GetProfileDiff_c(&orig->pon, &cfg->pon, vlan, 9)),
               "configure terminal\nprofile vlan \"lobby\"\nexit\nexit\ncommit\n");
 }
@@ -216,8 +221,9 @@ TEST_F(PlainSymbols, Block)
     char management[] = "management";
     char network[] = "network";
     char unknown[] = "alarm";
-    for (char* const name : {management, network, unknown, static_cast<char*>(nullptr)})
+    for (char* const name : {management, network, unknown, static_cast<char*>(nullptr)}) {
         expect_same([&] { return GetBlockDiff_c(orig, cfg, name); }, [&] { return GetBlockDiff(orig, cfg, name); });
+    }
     EXPECT_EQ(taken(GetBlockDiff_c(orig, cfg, management)), "configure terminal\nhostname \"olt-17\"\nexit\ncommit\n");
 }
 

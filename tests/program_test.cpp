@@ -378,9 +378,11 @@ TEST_F(Files, RecordsAndDocumentsMayBeMixed)
 {
     write("orig.bin", std::string(sizeof(GCfg), '\0'));
     write("cfg.bin", record_named("olt-17"));
-    for (const char* const orig : {"orig.bin", "orig.json"})
-        for (const char* const cfg : {"cfg.bin", "cfg.json"})
+    for (const char* const orig : {"orig.bin", "orig.json"}) {
+        for (const char* const cfg : {"cfg.bin", "cfg.json"}) {
             EXPECT_EQ(run({"diff", orig, cfg}).out, renamed_script) << orig << " " << cfg;
+        }
+    }
 }
 
 TEST_F(Files, ContentDecidesNotTheName)

@@ -377,8 +377,9 @@ TEST_F(Rows, ALongRowOfAnOperationWithoutMemoryLosesTheText)
     fill_book(after);
     Operation operation;
     const Where where{View::root, operation.key, operation.script};
-    for (int i = 0; i < 14; ++i)
+    for (int i = 0; i < 14; ++i) {
         EXPECT_TRUE(emit(where, "%s", std::string(1000, 'l').c_str())); // less room is left than the row needs
+    }
     const FailingAllocation failure(1, Failing::once);
     emit_changed(text(FIELD(Everything, book), "$ID1 <%s>"), changed_only, &before, &after, where);
     EXPECT_TRUE(failure.happened());

@@ -38,8 +38,9 @@ TEST_F(SerialNumbers, AnyOtherVendorByteBringsTheDenseLayout)
             std::array<int, 4> vendor = {0x41, 0x42, 0x43, 0x44};
             vendor[static_cast<std::size_t>(place)] = byte;
             std::string expected;
-            for (const int value : vendor)
+            for (const int value : vendor) {
                 expected += {"0123456789ABCDEF"[value / 16], "0123456789ABCDEF"[value % 16]};
+            }
             EXPECT_EQ(serial_text(0, {vendor[0], vendor[1], vendor[2], vendor[3], 1, 2, 3, 4}), expected + "01020304");
         }
     }
@@ -54,8 +55,9 @@ TEST_F(SerialNumbers, TheOtherLayouts)
 
 TEST_F(SerialNumbers, NoLayoutGivesNoText)
 {
-    for (const int format : {3, 4, 256, 32768, 65535})
+    for (const int format : {3, 4, 256, 32768, 65535}) {
         EXPECT_EQ(serial_text(static_cast<unsigned short>(format), {'A', 'B', 'C', 'D', 1, 2, 3, 4}), "");
+    }
 }
 
 TEST_F(SerialNumbers, TheSerialNumberOfTheNewConfigurationInItsLayoutCounts)

@@ -137,10 +137,12 @@ TEST(Digits, AroundTheLimitsOfTheTypes)
 {
     std::vector<std::uint64_t> values;
     std::uint64_t power = 1;
-    for (int zeros = 0; zeros < 20; zeros++, power *= 10)
+    for (int zeros = 0; zeros < 20; ++zeros, power *= 10) {
         values.push_back(power);
-    for (unsigned bit = 0; bit < 64; ++bit)
+    }
+    for (unsigned bit = 0; bit < 64; ++bit) {
         values.push_back(std::uint64_t{1} << bit);
+    }
     for (const std::uint64_t about : values) {
         for (const std::uint64_t value : {about - 1, about, about + 1, 0 - about}) {
             const auto as_signed = static_cast<std::int64_t>(value);
@@ -209,8 +211,9 @@ TEST(ScratchText, OfEveryLengthAroundItsRoomOnTheStack)
         append(whole, bytes);
         EXPECT_EQ(whole.c_str(), bytes);
         Text pieces;
-        for (const char byte : bytes)
+        for (const char byte : bytes) {
             pieces.append(byte);
+        }
         EXPECT_EQ(pieces.c_str(), bytes);
         pieces.append_natural(UINT64_MAX);
         pieces.append_aligned(5);

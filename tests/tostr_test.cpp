@@ -237,8 +237,9 @@ TEST(ToStr, ArraysOfBytes)
     expect_u8s({0, 255, 0}, "0,255,0");
     expect_u8s({255, 255, 255, 255}, "255,255,255,255");
     std::string many = "255";
-    for (int i = 1; i < 300; ++i)
+    for (int i = 1; i < 300; ++i) {
         many += ",255";
+    }
     expect_u8s(std::vector<unsigned char>(300, 255), many);
 }
 
@@ -248,8 +249,9 @@ TEST(ToStr, ArraysOfShorts)
     expect_s16s({-1}, "-1");
     expect_s16s({0, SHRT_MAX, SHRT_MIN}, "0,32767,-32768");
     std::string many = "-32768";
-    for (int i = 1; i < 300; ++i)
+    for (int i = 1; i < 300; ++i) {
         many += ",-32768";
+    }
     expect_s16s(std::vector<short>(300, SHRT_MIN), many);
 }
 

@@ -225,7 +225,7 @@ TEST_F(Views, TheSecondRequestForAnObjectWritesNothingWhateverTheOtherSlots)
 {
     session.open();
     EXPECT_EQ(go_with("if-ont-view", {5, 1, 2, 3, 4, 5, 6, 7, 8, 9}).text, "configure terminal\ninterface ont 0/5");
-    for (int slot = 1; slot < 10; slot++) {
+    for (int slot = 1; slot < 10; ++slot) {
         Key key = {5, 1, 2, 3, 4, 5, 6, 7, 8, 9};
         key[static_cast<std::size_t>(slot)] = -1000;
         SCOPED_TRACE(slot);
@@ -269,7 +269,7 @@ TEST_F(Views, AnOntIsItsPortAndItsNumber)
     const int indexes[] = {0, 5, 63, 64, 70, 130, 511, 512, 531, -1, -64, -65, INT_MAX, INT_MIN};
     const char* const shown[] = {"0/0", "0/5",  "0/63", "1/0",  "1/6",   "2/2",         "7/63",
                                  "8/0", "8/19", "0/-1", "-1/0", "-1/-1", "33554431/63", "-33554432/0"};
-    for (std::size_t i = 0; i < std::size(indexes); i++) {
+    for (std::size_t i = 0; i < std::size(indexes); ++i) {
         stand_in("configure-view", 0);
         EXPECT_EQ(text("if-ont-view", indexes[i]), std::string("interface ont ") + shown[i]);
     }
@@ -280,7 +280,7 @@ TEST_F(Views, AGponPortOrContainerStandsInFourCharacters)
     const int ids[] = {0, 3, 10, 1234, 12345, -1, -999, -1000, INT_MAX, INT_MIN};
     const char* const shown[] = {"   0", "   3", "  10",  "1234",       "12345",
                                  "  -1", "-999", "-1000", "2147483647", "-2147483648"};
-    for (std::size_t i = 0; i < std::size(ids); i++) {
+    for (std::size_t i = 0; i < std::size(ids); ++i) {
         stand_in("configure-view", 0);
         EXPECT_EQ(text("if-gpon-view", ids[i]), std::string("interface gpon-port ") + shown[i]);
         stand_in("configure-view", 0);
@@ -298,8 +298,9 @@ TEST_F(Views, TheOldNameIsPreferredToTheNewOne)
     for (const Entered& to : entered) {
         std::string command = to.command;
         const std::size_t quote = command.find('"');
-        if (quote == std::string::npos)
+        if (quote == std::string::npos) {
             continue;
+        }
         stand_in("configure-view", 0);
         EXPECT_EQ(text(to.view, 7), command.insert(quote + 1, "old "));
     }
@@ -334,8 +335,9 @@ TEST_F(Views, ASlotWithoutANameGivesEmptyQuotes)
     for (const Entered& to : entered) {
         const std::string command = to.command;
         const std::size_t quote = command.find('"');
-        if (quote == std::string::npos)
+        if (quote == std::string::npos) {
             continue;
+        }
         for (const int slot : {0, 31, 32, 127, 128, -1, INT_MIN, INT_MAX}) {
             SCOPED_TRACE(std::string(to.view) + " " + std::to_string(slot));
             stand_in("configure-view", 0);

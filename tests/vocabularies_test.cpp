@@ -15,13 +15,17 @@ void expect_words(const char* (*word)(int), const Words& words, const char* othe
         const auto entry = words.find(value);
         EXPECT_STREQ(word(value), entry == words.end() ? otherwise : entry->second) << value;
     };
-    for (int value = -70000; value <= 70000; ++value)
+    for (int value = -70000; value <= 70000; ++value) {
         expect(value);
-    for (const auto& entry : words)
-        for (const int far : {1 << 16, 1 << 17, 1 << 24, INT_MIN})
+    }
+    for (const auto& entry : words) {
+        for (const int far : {1 << 16, 1 << 17, 1 << 24, INT_MIN}) {
             expect(entry.first + far);
-    for (const int value : {INT_MIN, INT_MIN + 1, INT_MAX - 1, INT_MAX})
+        }
+    }
+    for (const int value : {INT_MIN, INT_MIN + 1, INT_MAX - 1, INT_MAX}) {
         expect(value);
+    }
 }
 
 } // namespace

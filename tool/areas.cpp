@@ -40,8 +40,9 @@ template <class Table>
 std::vector<std::string_view> names_of(const Table& table)
 {
     std::vector<std::string_view> names;
-    for (const auto& entry : table)
+    for (const auto& entry : table) {
         names.emplace_back(entry.name);
+    }
     names.erase(std::unique(names.begin(), names.end()), names.end());
     return names;
 }
@@ -56,8 +57,9 @@ std::string enumerated(const std::vector<std::string_view>& names)
 std::optional<int> slot_number(std::string_view digits, int slots)
 {
     std::uint64_t number = 0;
-    if (!parse_decimal(digits, number) || number >= static_cast<std::uint64_t>(slots))
+    if (!parse_decimal(digits, number) || number >= static_cast<std::uint64_t>(slots)) {
         return std::nullopt;
+    }
     return static_cast<int>(number);
 }
 
@@ -65,12 +67,14 @@ std::optional<int> slot_number(std::string_view digits, int slots)
 std::optional<int> ont_index(std::string_view text)
 {
     const std::size_t slash = text.find('/');
-    if (slash == text.npos)
+    if (slash == text.npos) {
         return slot_number(text, GCFG_ONTS);
+    }
     const std::optional<int> port = slot_number(text.substr(0, slash), GCFG_ONTS);
     const std::optional<int> id = slot_number(text.substr(slash + 1), GCFG_ONTS_PER_PORT);
-    if (!port || !id || *port * GCFG_ONTS_PER_PORT + *id >= GCFG_ONTS)
+    if (!port || !id || *port * GCFG_ONTS_PER_PORT + *id >= GCFG_ONTS) {
         return std::nullopt;
+    }
     return *port * GCFG_ONTS_PER_PORT + *id;
 }
 
@@ -105,9 +109,10 @@ Area pon_part(const Request& /*request*/)
 Area ont(const Request& request)
 {
     const std::optional<int> index = ont_index(request.argument);
-    if (!index)
+    if (!index) {
         reject(request, fmt::format("no such ONT; there are 0 to {}, also written 0/0 to {}/{}", GCFG_ONTS - 1,
                                     (GCFG_ONTS - 1) / GCFG_ONTS_PER_PORT, (GCFG_ONTS - 1) % GCFG_ONTS_PER_PORT));
+    }
     return {{element_of(RECORDS(pon.ont), GCFG_ONTS, *index)},
             [i = *index](GCfg& orig, GCfg& cfg) { return GetGponOntDiff(&orig.pon.ont[i], &cfg.pon.ont[i], i); }};
 }
@@ -115,8 +120,9 @@ Area ont(const Request& request)
 Area port(const Request& request)
 {
     const std::optional<int> number = slot_number(request.argument, GCFG_GPON_PORTS);
-    if (!number)
+    if (!number) {
         reject(request, fmt::format("no such GPON port; there are 0 to {}", GCFG_GPON_PORTS - 1));
+    }
     return {{element_of(RECORDS(pon.olt.channel), GCFG_GPON_PORTS, *number)}, [i = *number](GCfg& orig, GCfg& cfg) {
                 return GetGponChannelDiff(&orig.pon.olt.channel[i], &cfg.pon.olt.channel[i], i);
             }};
@@ -143,14 +149,16 @@ Area profile(const Request& request)
     const std::size_t colon = argument.find(':');
     const std::string_view name = argument.substr(0, colon);
     for (const ProfileKind& kind : profile_kinds) {
-        if (kind.name != name)
+        if (kind.name != name) {
             continue;
+        }
         Range records{kind.offset, static_cast<std::size_t>(kind.slots) * kind.size};
         int id = -1;
         if (colon != argument.npos) {
             const std::optional<int> slot = slot_number(argument.substr(colon + 1), kind.slots);
-            if (!slot)
+            if (!slot) {
                 reject(request, fmt::format("no such {}; there are 0 to {}", kind.called, kind.slots - 1));
+            }
             id = *slot;
             records = element_of(records, kind.slots, id);
         }
@@ -248,8 +256,9 @@ std::string written(const AreaKind& kind)
 std::string list_of_kinds()
 {
     std::vector<std::string> names;
-    for (const AreaKind& kind : area_kinds)
+    for (const AreaKind& kind : area_kinds) {
         names.push_back(written(kind));
+    }
     return enumerated({names.begin(), names.end()});
 }
 
@@ -284,10 +293,11 @@ std::vector<std::string_view> names_of_blocks()
 Area whole_configuration(int common)
 {
     Area area{{{0, sizeof(GCfg)}}, [](GCfg& orig, GCfg& cfg) { return GetDiff(&orig, &cfg); }};
-    if (common == 1)
+    if (common == 1) {
         area.records = {RECORDS(system.services.cli), RECORDS(system.services.alarm),
                         RECORDS(system.settings),     RECORDS(pon.network),
                         RECORDS(pon.olt.general),     RECORDS(system.services.source_guard)};
+    }
     return area;
 }
 
@@ -296,9 +306,11 @@ Area area_named(const std::string& name)
     const std::size_t colon = name.find(':');
     const std::string_view kind_name = std::string_view(name).substr(0, colon);
     const std::string_view argument = colon == name.npos ? "" : std::string_view(name).substr(colon + 1);
-    for (const AreaKind& kind : area_kinds)
-        if (kind.name == kind_name && (kind.argument || colon == name.npos))
+    for (const AreaKind& kind : area_kinds) {
+        if (kind.name == kind_name && (kind.argument || colon == name.npos)) {
             return kind.area({name, argument});
+        }
+    }
     reject({name, argument},
            fmt::format("no such area{}; there are {}", suggestion(kind_name, names_of(area_kinds)), list_of_kinds()));
 }
@@ -338,8 +350,9 @@ std::string area_candidates()
 std::string list_of_areas()
 {
     std::string text;
-    for (const AreaKind& kind : area_kinds)
+    for (const AreaKind& kind : area_kinds) {
         text += fmt::format("  {:<15}  {}\n", written(kind), kind.shows);
+    }
     return text + fmt::format("\nKinds of profiles:\n{}\n\nBlocks of settings:\n{}\n", wrapped(names_of(profile_kinds)),
                               wrapped(names_of(block_records)));
 }

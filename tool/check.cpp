@@ -87,8 +87,9 @@ class Inspection {
     enum class Presence { there, removable, absent };
     Presence presence_of(const Field& field, std::size_t offset, Presence outer) const
     {
-        if (outer != Presence::there || object_exists(*field.record, at(offset)))
+        if (outer != Presence::there || object_exists(*field.record, at(offset))) {
             return outer;
+        }
         return field.element.enter && !field.element.remove ? Presence::removable : Presence::absent;
     }
 
@@ -129,16 +130,18 @@ void Inspection::look_at(const Record& record, std::size_t offset, Presence pres
             const std::size_t element = start + i * field.width;
             path_.push(field, i);
             const Place place{record, offset, field, i, element};
-            if (field.record)
+            if (field.record) {
                 look_at(*field.record, element, presence_of(field, element, presence));
-            else if (presence == Presence::there)
+            } else if (presence == Presence::there) {
                 judge(place);
-            else if (presence == Presence::removable)
+            } else if (presence == Presence::removable) {
                 judge_text(place);
+            }
             path_.pop();
         }
-        if (presence == Presence::there && field.record && field.array)
+        if (presence == Presence::there && field.record && field.array) {
             look_at_names(field, start);
+        }
     }
 }
 
@@ -146,13 +149,15 @@ void Inspection::look_at(const Record& record, std::size_t offset, Presence pres
 void Inspection::look_at_names(const Field& array, std::size_t offset)
 {
     const Field* const name = field_named(*array.record, "name");
-    if (!name || name->form != Form::text || !flag_of_existence(*array.record))
+    if (!name || name->form != Form::text || !flag_of_existence(*array.record)) {
         return;
+    }
     std::map<std::string_view, std::vector<std::size_t>> indexes_by_name;
     for (std::size_t i = 0; i < array.count; ++i) {
         const unsigned char* const element = at(offset + i * array.width);
-        if (object_exists(*array.record, element))
+        if (object_exists(*array.record, element)) {
             indexes_by_name[text_in(*name, element + name->offset)].push_back(i);
+        }
     }
     const auto path_of = [this, &array](std::size_t index) {
         path_.push(array, index);
@@ -161,12 +166,14 @@ void Inspection::look_at_names(const Field& array, std::size_t offset)
         return path;
     };
     for (const auto& [text, indexes] : indexes_by_name) {
-        if (indexes.size() == 1)
+        if (indexes.size() == 1) {
             continue;
-        for (const std::size_t i : indexes)
+        }
+        for (const std::size_t i : indexes) {
             findings_.push_back({offset + i * array.width + name->offset, name->width, path_of(i) + ".name",
                                  fmt::format("{} is also the name of {}", shown_text(*name, text),
                                              path_of(i == indexes[0] ? indexes[1] : indexes[0]))});
+        }
     }
 }
 
@@ -180,8 +187,9 @@ void Inspection::judge(const Place& place)
     case Form::enumeration:
         return judge_enumeration(place);
     case Form::reference:
-        if (const ProfileKind* const kind = kind_of(place.field.reference))
+        if (const ProfileKind* const kind = kind_of(place.field.reference)) {
             return judge_profile(place, *kind);
+        }
         return judge_terminal_vlan(place);
     default:
         return;
@@ -191,16 +199,18 @@ void Inspection::judge(const Place& place)
 void Inspection::judge_end(const Place& place)
 {
     const std::string_view value = text_in(place.field, at(place.offset));
-    if (value.size() == place.field.width)
+    if (value.size() == place.field.width) {
         add(place, shown_text(place.field, value) + fmt::format(" has no end within its {} bytes", place.field.width));
+    }
 }
 
 /// What would reach a script and do harm there, whether the object exists or not.
 void Inspection::judge_text(const Place& place)
 {
     const bool is_text = place.field.form == Form::text || place.field.form == Form::secret;
-    if (!is_text || place.field.silent)
+    if (!is_text || place.field.silent) {
         return;
+    }
     const std::string_view value = text_in(place.field, at(place.offset));
     for (const std::string& part : unsafe_parts(value)) {
         add(place, shown_text(place.field, value) + part);
@@ -211,20 +221,23 @@ void Inspection::judge_text(const Place& place)
 void Inspection::judge_enumeration(const Place& place)
 {
     const std::int64_t value = number_at(place);
-    if (!has_word(place.field, value) && !may_be_left_out(place))
+    if (!has_word(place.field, value) && !may_be_left_out(place)) {
         add(place, fmt::format("{} has no word in {}", value, place.field.enumeration));
+    }
 }
 
 void Inspection::judge_profile(const Place& place, const ProfileKind& kind)
 {
     const std::int64_t index = number_at(place);
     const bool inside = index >= 0 && index < kind.slots;
-    if (index == none || (inside && kind.exists(cfg_, static_cast<int>(index))))
+    if (index == none || (inside && kind.exists(cfg_, static_cast<int>(index)))) {
         return;
+    }
     const Field* const flag = field_named(place.record, std::string(place.field.name) + "_is_active");
     if (flag) {
-        if (get_number(*flag, at(place.record_offset + flag->offset + place.index * flag->width)) == 0)
+        if (get_number(*flag, at(place.record_offset + flag->offset + place.index * flag->width)) == 0) {
             return;
+        }
     } else if (may_be_left_out(place) && !(orig_ && kind.exists(*orig_, 0)) && !refers_to_nothing(place)) {
         return;
     }
@@ -235,8 +248,9 @@ void Inspection::judge_profile(const Place& place, const ProfileKind& kind)
 void Inspection::judge_terminal_vlan(const Place& place)
 {
     const int index = terminal_vlan_of(place.field.reference, number_at(place));
-    if (index >= 0 && cfg_.pon.network.terminal_vlan[index].exists == 0)
+    if (index >= 0 && cfg_.pon.network.terminal_vlan[index].exists == 0) {
         add(place, fmt::format("there is no terminal VLAN {}", index));
+    }
 }
 
 bool Inspection::may_be_left_out(const Place& place) const
@@ -248,11 +262,15 @@ bool Inspection::may_be_left_out(const Place& place) const
 /// Whether another reference in the same record is -1, a reference to no profile.
 bool Inspection::refers_to_nothing(const Place& place) const
 {
-    for (const Field& field : place.record)
-        if (field.form == Form::reference && kind_of(field.reference))
-            for (std::size_t i = 0; i < field.count; ++i)
-                if (get_number(field, at(place.record_offset + field.offset + i * field.width)) == none)
+    for (const Field& field : place.record) {
+        if (field.form == Form::reference && kind_of(field.reference)) {
+            for (std::size_t i = 0; i < field.count; ++i) {
+                if (get_number(field, at(place.record_offset + field.offset + i * field.width)) == none) {
                     return true;
+                }
+            }
+        }
+    }
     return false;
 }
 
@@ -266,11 +284,13 @@ std::vector<Finding> check(const GCfg& configuration)
 std::vector<Finding> check_change(const GCfg& orig, const GCfg& cfg, bool all)
 {
     std::vector<Finding> findings = Inspection(cfg, &orig, Zeros::left_out).findings();
-    if (all || findings.empty())
+    if (all || findings.empty()) {
         return findings;
+    }
     std::set<std::pair<std::size_t, std::string>> old;
-    for (Finding& finding : Inspection(orig, nullptr, Zeros::meant).findings())
+    for (Finding& finding : Inspection(orig, nullptr, Zeros::meant).findings()) {
         old.emplace(finding.offset, std::move(finding.text));
+    }
     const auto is_old = [&](const Finding& finding) {
         return std::memcmp(reinterpret_cast<const char*>(&orig) + finding.offset,
                            reinterpret_cast<const char*>(&cfg) + finding.offset, finding.size) == 0 &&

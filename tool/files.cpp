@@ -40,8 +40,9 @@ bool is_input(const struct stat& file)
 
 std::string name_in_messages(const std::string& file, const char* standard_stream_name)
 {
-    if (file == standard_stream)
+    if (file == standard_stream) {
         return standard_stream_name;
+    }
     return file.empty() ? "''" : file;
 }
 
@@ -51,17 +52,22 @@ std::string read_all(int descriptor, const std::string& name)
     std::size_t size = 0;
     while (true) {
         const ssize_t count = read(descriptor, content.data() + size, content.size() - size);
-        if (count < 0 && errno == EINTR)
+        if (count < 0 && errno == EINTR) {
             continue;
-        if (count < 0)
+        }
+        if (count < 0) {
             throw FileError(name, errno);
-        if (count == 0)
+        }
+        if (count == 0) {
             break;
+        }
         size += static_cast<std::size_t>(count);
-        if (size > largest_file)
+        if (size > largest_file) {
             throw FileError(name, EFBIG);
-        if (size == content.size())
+        }
+        if (size == content.size()) {
             content.resize(2 * size);
+        }
     }
     content.resize(size);
     return content;
@@ -80,12 +86,14 @@ struct stat settled_state(int descriptor, const std::string& name)
     struct stat state = {};
     for (int tries = 0; tries < 50; ++tries) {
         timespec now = {};
-        if (fstat(descriptor, &state) != 0)
+        if (fstat(descriptor, &state) != 0) {
             throw FileError(name, errno);
+        }
         clock_gettime(CLOCK_REALTIME, &now);
         const std::int64_t age = nanoseconds(now) - nanoseconds(state.st_ctim);
-        if (!S_ISREG(state.st_mode) || age < 0 || age >= tick)
+        if (!S_ISREG(state.st_mode) || age < 0 || age >= tick) {
             break;
+        }
         const timespec rest{0, static_cast<long>(tick - age)};
         nanosleep(&rest, nullptr);
     }
@@ -104,33 +112,40 @@ std::string read_unchanged(int descriptor, const std::string& name)
     const struct stat before = settled_state(descriptor, name);
     std::string content = read_all(descriptor, name);
     struct stat after = {};
-    if (fstat(descriptor, &after) != 0)
+    if (fstat(descriptor, &after) != 0) {
         throw FileError(name, errno);
-    if (!S_ISREG(after.st_mode))
+    }
+    if (!S_ISREG(after.st_mode)) {
         return content;
-    if (!same_content(before, after))
+    }
+    if (!same_content(before, after)) {
         throw FileError(name, "changed while it was read; try again");
+    }
     files_read().emplace_back(after.st_dev, after.st_ino);
     return content;
 }
 
 void check_is_no_input(const struct stat& file, const std::string& name)
 {
-    if (is_input(file))
+    if (is_input(file)) {
         throw FileError(name, "is an input as well; choose another file for the output");
+    }
 }
 
 void write_to_descriptor(int descriptor, std::string_view content, const std::string& name)
 {
-    if (content.empty())
+    if (content.empty()) {
         return;
+    }
     struct stat status = {};
     Descriptor copy{dup(descriptor)};
-    if (copy.number() < 0 || fstat(copy.number(), &status) != 0)
+    if (copy.number() < 0 || fstat(copy.number(), &status) != 0) {
         throw FileError(name, errno);
+    }
     check_is_no_input(status, name);
-    if (!write_all(copy.number(), content) || !copy.close())
+    if (!write_all(copy.number(), content) || !copy.close()) {
         throw FileError(name, errno);
+    }
 }
 
 /// @param existing  the file to replace, or a closed descriptor if there is none
@@ -138,14 +153,17 @@ void replace_file(const std::filesystem::path& file, const Descriptor& existing,
                   std::string_view content, const std::string& name)
 {
     Replacement replacement{file};
-    if (replacement.descriptor() < 0)
+    if (replacement.descriptor() < 0) {
         throw FileError(name, errno);
+    }
     const bool exists = existing.number() >= 0;
-    if (exists && !replacement.take_access_of(existing.number(), status))
+    if (exists && !replacement.take_access_of(existing.number(), status)) {
         throw FileError(name, fmt::format("its owner, group and permissions cannot be kept ({}); choose another file",
                                           std::strerror(errno)));
-    if (!write_all(replacement.descriptor(), content) || !replacement.take_place(exists))
+    }
+    if (!write_all(replacement.descriptor(), content) || !replacement.take_place(exists)) {
         throw FileError(name, errno);
+    }
 }
 
 } // namespace
@@ -158,11 +176,13 @@ std::string name_of_input(const std::string& file)
 std::string read_file(const std::string& file)
 {
     const std::string name = name_of_input(file);
-    if (file == standard_stream)
+    if (file == standard_stream) {
         return read_unchanged(STDIN_FILENO, name);
+    }
     const Descriptor opened{open(file.c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY)};
-    if (opened.number() < 0)
+    if (opened.number() < 0) {
         throw FileError(name, errno);
+    }
     return read_unchanged(opened.number(), name);
 }
 
@@ -171,17 +191,21 @@ void write_file(const std::string& file, std::string_view content)
     const std::string name = name_in_messages(file, "standard output");
     const Destination destination =
         file == standard_stream ? Destination{"", true, STDOUT_FILENO} : destination_of(file);
-    if (destination.descriptor)
+    if (destination.descriptor) {
         return write_to_descriptor(*destination.descriptor, content, name);
+    }
     Descriptor existing{open(file.c_str(), O_WRONLY | O_APPEND | O_CLOEXEC | O_NOCTTY)};
     struct stat status = {};
-    if (existing.number() < 0 ? errno != ENOENT : fstat(existing.number(), &status) != 0)
+    if (existing.number() < 0 ? errno != ENOENT : fstat(existing.number(), &status) != 0) {
         throw FileError(name, errno);
+    }
     check_is_no_input(status, name);
-    if (existing.number() < 0 || (S_ISREG(status.st_mode) && !destination.of_a_process))
+    if (existing.number() < 0 || (S_ISREG(status.st_mode) && !destination.of_a_process)) {
         return replace_file(destination.file, existing, status, content, name);
-    if (!write_all(existing.number(), content) || !existing.close())
+    }
+    if (!write_all(existing.number(), content) || !existing.close()) {
         throw FileError(name, errno);
+    }
 }
 
 } // namespace pondiff::tool

@@ -18,10 +18,12 @@ static GCfg* read_record(const char* path)
     FILE* file = fopen(path, "rb");
     const int whole = record && file && fread(record, sizeof *record, 1, file) == 1 && fgetc(file) == EOF;
 
-    if (file)
+    if (file) {
         fclose(file);
-    if (whole)
+    }
+    if (whole) {
         return record;
+    }
     fprintf(stderr, "%s: not a record of %zu bytes\n", path, sizeof *record);
     free(record);
     return NULL;
@@ -32,8 +34,9 @@ static int print_script(GCfg* running, GCfg* wanted)
 {
     char* script = NULL;
 
-    if (initiate_diff_c(running, wanted, 0, 0) == 0)
+    if (initiate_diff_c(running, wanted, 0, 0) == 0) {
         script = GetDiff_c(running, wanted);
+    }
     finalize_diff_c();
     if (!script) {
         fputs("out of memory\n", stderr);

@@ -20,8 +20,9 @@ class Session {
   public:
     Session(GCfg& running, GCfg& wanted)
     {
-        if (initiate_diff(&running, &wanted, 0, 0) != 0)
+        if (initiate_diff(&running, &wanted, 0, 0) != 0) {
             throw std::bad_alloc();
+        }
     }
     ~Session() { finalize_diff(); }
     Session(const Session&) = delete;
@@ -32,8 +33,9 @@ std::unique_ptr<GCfg> read_record(const std::string& path)
 {
     auto record = std::make_unique<GCfg>();
     std::ifstream file(path, std::ios::binary);
-    if (!file.read(reinterpret_cast<char*>(record.get()), sizeof(GCfg)) || file.get() != EOF)
+    if (!file.read(reinterpret_cast<char*>(record.get()), sizeof(GCfg)) || file.get() != EOF) {
         throw std::runtime_error(path + ": not a record of " + std::to_string(sizeof(GCfg)) + " bytes");
+    }
     return record;
 }
 
@@ -41,8 +43,9 @@ std::string script(GCfg& running, GCfg& wanted)
 {
     const Session session(running, wanted);
     const std::unique_ptr<char, decltype(&std::free)> text(GetDiff(&running, &wanted), &std::free);
-    if (!text)
+    if (!text) {
         throw std::bad_alloc();
+    }
     return text.get();
 }
 
@@ -50,8 +53,9 @@ std::string script(GCfg& running, GCfg& wanted)
 
 int main(int argc, char** argv)
 try {
-    if (argc != 3)
+    if (argc != 3) {
         throw std::runtime_error(std::string("usage: ") + argv[0] + " RUNNING WANTED");
+    }
     const auto running = read_record(argv[1]);
     const auto wanted = read_record(argv[2]);
     std::cout << script(*running, *wanted);

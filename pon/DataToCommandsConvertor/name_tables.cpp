@@ -64,9 +64,11 @@ constexpr NameTable name_tables[] = {
 
 bool any_byte_set(const char* bytes, std::size_t size)
 {
-    for (std::size_t i = 0; i < size; ++i)
-        if (bytes[i] != 0)
+    for (std::size_t i = 0; i < size; ++i) {
+        if (bytes[i] != 0) {
             return true;
+        }
+    }
     return false;
 }
 
@@ -87,11 +89,13 @@ bool fill(const NameTable& table, char** names, const GCfg& configuration)
 {
     const char* object = reinterpret_cast<const char*>(&configuration) + table.first;
     for (std::size_t i = 0; i < table.slots; ++i, object += table.stride) {
-        if (!any_byte_set(object + table.exists, table.exists_size))
+        if (!any_byte_set(object + table.exists, table.exists_size)) {
             continue;
+        }
         names[i] = copy_of(object + table.name, table.name_size);
-        if (!names[i])
+        if (!names[i]) {
             return false;
+        }
     }
     return true;
 }
@@ -109,12 +113,14 @@ bool fill_serials(const GCfg& configuration)
     constexpr std::size_t serial_size = 24;
     for (std::size_t i = 0; i < GCFG_ONTS; ++i) {
         ont2id_connection[i] = static_cast<char*>(std::calloc(1, serial_size));
-        if (!ont2id_connection[i])
+        if (!ont2id_connection[i]) {
             return false;
-        if (i == 0)
+        }
+        if (i == 0) {
             std::strcpy(ont2id_connection[i], "0000000000000000");
-        else
+        } else {
             convert_sn_by_format(ont2id_connection[i], configuration.pon.ont[i].serial);
+        }
     }
     return true;
 }
@@ -122,10 +128,12 @@ bool fill_serials(const GCfg& configuration)
 bool fill_name_tables(const GCfg& orig, const GCfg& cfg)
 {
     for (const NameTable& table : name_tables) {
-        if (!fill(table, table.names, cfg))
+        if (!fill(table, table.names, cfg)) {
             return false;
-        if (table.old_names && !fill(table, table.old_names, orig))
+        }
+        if (table.old_names && !fill(table, table.old_names, orig)) {
             return false;
+        }
     }
     return true;
 }
@@ -137,10 +145,12 @@ void fill_addresses(const GSystemServices& services)
         convert_ip_bintostr(sship[i], services.ssh.allow[i].ip);
         convert_ip_bintostr(snmpip[i], services.snmp.allow[i].ip);
     }
-    for (std::size_t i = 0; i < GCFG_ROUTES; ++i)
+    for (std::size_t i = 0; i < GCFG_ROUTES; ++i) {
         convert_ip_bintostr(routeip[i], services.routing.route[i].prefix);
-    for (std::size_t i = 0; i < GCFG_SOURCE_GUARD_BINDINGS; ++i)
+    }
+    for (std::size_t i = 0; i < GCFG_SOURCE_GUARD_BINDINGS; ++i) {
         convert_ip_bintostr(sourceguardip[i], services.source_guard.bind[i].ip);
+    }
 }
 
 constexpr char unassigned[] = "unassigned";
@@ -164,17 +174,20 @@ int data_prepare(GCfg_t* orig, GCfg_t* cfg)
 {
     data_free();
     current_view.name = pondiff::data_of(pondiff::View::root).name;
-    if (!orig || !cfg)
+    if (!orig || !cfg) {
         return -1;
+    }
     sn_format = cfg->system.settings.ont_sn_format;
     if (!fill_serials(*cfg) || !fill_name_tables(*orig, *cfg)) {
         data_free();
         return -1;
     }
-    for (std::size_t i = 0; i < GCFG_ALARM_TYPES; ++i)
+    for (std::size_t i = 0; i < GCFG_ALARM_TYPES; ++i) {
         alarm2id_connection[i] = getCliAlarmType(static_cast<int>(cfg->system.services.alarm.type[i].type));
-    for (std::size_t i = 0; i < GCFG_RELAY_REDEFINITIONS; ++i)
+    }
+    for (std::size_t i = 0; i < GCFG_RELAY_REDEFINITIONS; ++i) {
         profile_dhcpra_redefinition2id_connection[i] = cfg->pon.olt.general.profile_olt_dhcpra_redefinition[i].vid;
+    }
     fill_addresses(cfg->system.services);
     return 0;
 }
@@ -184,8 +197,9 @@ int data_free()
     release(ont2id_connection, GCFG_ONTS);
     for (const NameTable& table : name_tables) {
         release(table.names, table.slots);
-        if (table.old_names)
+        if (table.old_names) {
             release(table.old_names, table.slots);
+        }
     }
     return 0;
 }
@@ -211,12 +225,15 @@ char* convert_sn_by_format(char* out, const unsigned char* serial)
 {
     enum { pretty, dense, dashed };
     constexpr int vendor_size = 4;
-    if (sn_format == dense)
+    if (sn_format == dense) {
         convert_sn_bintostr_dense(out, serial);
-    if (sn_format == dashed)
+    }
+    if (sn_format == dashed) {
         convert_sn_bintostr_dashed(out, serial);
-    if (sn_format != pretty)
+    }
+    if (sn_format != pretty) {
         return out;
+    }
     convert_sn_bintostr_pretty(out, serial);
     for (int i = 0; i < vendor_size; ++i) {
         if (out[i] < 'A' || out[i] > 'Z') {

@@ -53,8 +53,9 @@ void name_first_identifier(Text& line, std::size_t first_mark, int id)
     const std::size_t prefix_size = first_mark + mark_size + 1;
     for (const NamedCommand& named : named_commands) {
         if (named.size != prefix_size || line.size() < prefix_size ||
-            std::memcmp(line.data(), named.prefix, prefix_size) != 0)
+            std::memcmp(line.data(), named.prefix, prefix_size) != 0) {
             continue;
+        }
         const char* const name = named.name(id);
         Text shown;
         shown.append(named.before);
@@ -75,18 +76,23 @@ enum class Slot { none, number, outside };
 /// Reads the slot number after a mark as scanf's %d does: blanks and a sign are skipped.
 Slot read_slot(const char* at, const char* end, int& slot)
 {
-    while (at != end && (*at == ' ' || (*at >= '\t' && *at <= '\r')))
+    while (at != end && (*at == ' ' || (*at >= '\t' && *at <= '\r'))) {
         ++at;
+    }
     const bool negative = at != end && *at == '-';
-    if (at != end && (*at == '-' || *at == '+'))
+    if (at != end && (*at == '-' || *at == '+')) {
         ++at;
-    if (at == end || *at < '0' || *at > '9')
+    }
+    if (at == end || *at < '0' || *at > '9') {
         return Slot::none;
+    }
     int value = 0;
-    for (; at != end && *at >= '0' && *at <= '9'; ++at)
+    for (; at != end && *at >= '0' && *at <= '9'; ++at) {
         value = std::min(value * 10 + (*at - '0'), key_slots);
-    if (value >= key_slots || (negative && value != 0))
+    }
+    if (value >= key_slots || (negative && value != 0)) {
         return Slot::outside;
+    }
     slot = value;
     return Slot::number;
 }
@@ -95,10 +101,12 @@ char* find_mark(char* from, const char* end)
 {
     while (static_cast<std::size_t>(end - from) >= mark_size) {
         from = static_cast<char*>(std::memchr(from, mark[0], static_cast<std::size_t>(end - from) - mark_size + 1));
-        if (!from)
+        if (!from) {
             return nullptr;
-        if (std::memcmp(from, mark, mark_size) == 0)
+        }
+        if (std::memcmp(from, mark, mark_size) == 0) {
             return from;
+        }
         ++from;
     }
     return nullptr;
@@ -109,8 +117,9 @@ char* find_mark(char* from, const char* end)
 void substitute(Text& line, const int* key)
 {
     const char* const first_mark = find_mark(line.data(), line.data() + line.size());
-    if (!first_mark)
+    if (!first_mark) {
         return;
+    }
     name_first_identifier(line, static_cast<std::size_t>(first_mark - line.data()), key[of_object]);
 
     int slot = 0; // a mark without a number uses the number read last
@@ -122,10 +131,12 @@ void substitute(Text& line, const int* key)
             continue;
         }
         done += identifier_width;
-        if (done > line.size())
+        if (done > line.size()) {
             line.append(' '); // a mark at the very end is also replaced by four characters
-        if (done > line.size())
+        }
+        if (done > line.size()) {
             return;
+        }
         put_identifier(line.data() + done - identifier_width, key[slot]);
     }
 }
@@ -134,8 +145,9 @@ void substitute(Text& line, const int* key)
 
 char* useVariables(char* command, int* ids)
 {
-    if (!command || !ids)
+    if (!command || !ids) {
         return nullptr;
+    }
     pondiff::Text line;
     line.append(command);
     pondiff::substitute(line, ids);
@@ -144,8 +156,9 @@ char* useVariables(char* command, int* ids)
 
 int generate_command_buf(char* command, int* ids, char* output, std::size_t size)
 {
-    if (!command || !ids || !output || size == 0)
+    if (!command || !ids || !output || size == 0) {
         return 0;
+    }
     pondiff::Text line;
     line.append(command);
     pondiff::substitute(line, ids);

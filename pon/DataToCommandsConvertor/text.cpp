@@ -21,8 +21,9 @@ bool Text::grow(std::size_t more)
         failed_ = true;
         return false;
     }
-    if (on_stack)
+    if (on_stack) {
         std::memcpy(bigger, data_, size_);
+    }
     data_ = bigger;
     capacity_ = wanted;
     return true;
@@ -30,8 +31,9 @@ bool Text::grow(std::size_t more)
 
 void Text::append(const char* bytes, std::size_t size)
 {
-    if (!has_room(size))
+    if (!has_room(size)) {
         return;
+    }
     std::memcpy(data_ + size_, bytes, size);
     size_ += size;
 }
@@ -40,8 +42,9 @@ template <class Number>
 void Text::append_digits(Number value)
 {
     constexpr std::size_t most_digits = 20; // of 64 bits, with a sign
-    if (has_room(most_digits))
+    if (has_room(most_digits)) {
         size_ = static_cast<std::size_t>(std::to_chars(data_ + size_, data_ + size_ + most_digits, value).ptr - data_);
+    }
 }
 
 void Text::append_natural(std::uint64_t value)
@@ -58,15 +61,17 @@ void Text::append_aligned(int value)
 {
     PON_SCRATCH Text digits;
     digits.append_digits(value);
-    for (std::size_t size = digits.size(); size < identifier_width; ++size)
+    for (std::size_t size = digits.size(); size < identifier_width; ++size) {
         append(' ');
+    }
     append(digits.data(), digits.size());
 }
 
 void Text::replace_front(std::size_t count, const Text& text)
 {
-    if (text.size_ > count && capacity_ - size_ <= text.size_ - count && !grow(text.size_ - count))
+    if (text.size_ > count && capacity_ - size_ <= text.size_ - count && !grow(text.size_ - count)) {
         return;
+    }
     std::memmove(data_ + text.size_, data_ + count, size_ - count);
     std::memcpy(data_, text.data_, text.size_);
     size_ = size_ - count + text.size_;

@@ -24,8 +24,9 @@ class Text {
     Text() = default;
     ~Text()
     {
-        if (data_ != inline_)
+        if (data_ != inline_) {
             std::free(data_);
+        }
     }
     Text(const Text&) = delete;
     Text& operator=(const Text&) = delete;
@@ -34,8 +35,9 @@ class Text {
     void append(const char* text) { append(text, std::strlen(text)); }
     void append(char character)
     {
-        if (has_room(1))
+        if (has_room(1)) {
             data_[size_++] = character;
+        }
     }
     void append_natural(std::uint64_t value);
     void append_decimal(std::int64_t value);

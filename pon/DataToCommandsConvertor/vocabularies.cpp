@@ -118,9 +118,11 @@ const char* word_or(const char* const (&words)[N], int value, const char* otherw
 
 const char* getCliAlarmType(int value)
 {
-    for (const Word& type : alarm_types)
-        if (type.value == value)
+    for (const Word& type : alarm_types) {
+        if (type.value == value) {
             return type.word;
+        }
+    }
     return "";
 }
 

@@ -11,14 +11,16 @@ namespace {
 /// Each under its own rule: nothing is compared at this level.
 void diff_common_records(GCfg& orig, GCfg& cfg, CommonSet set, int* key, List<char>& out)
 {
-    if (set == CommonSet::whole)
+    if (set == CommonSet::whole) {
         getdiff_GSystemCliCfg(&orig.system.services.cli, &cfg.system.services.cli, key, out);
+    }
     getdiff_GSystemAlarmCfg(&orig.system.services.alarm, &cfg.system.services.alarm, key, out);
     getdiff_GSystemCommonSettings(&orig.system.settings, &cfg.system.settings, key, out);
     getdiff_GPonNetworkCfg(&orig.pon.network, &cfg.pon.network, key, out);
     getdiff_GPonOltGeneralCfg(&orig.pon.olt.general, &cfg.pon.olt.general, key, out);
-    if (set == CommonSet::whole)
+    if (set == CommonSet::whole) {
         getdiff_GSystemSourceGuardCfg(&orig.system.services.source_guard, &cfg.system.services.source_guard, key, out);
+    }
 }
 
 } // namespace
@@ -46,8 +48,9 @@ char* GetDiff(GCfg_t* orig, GCfg_t* cfg)
 
 bool getdiff_GCfg(GCfg* lhs, GCfg* rhs, int* key, List<char>& out)
 {
-    if (!lhs || !rhs)
+    if (!lhs || !rhs) {
         return false;
+    }
     descend(changed_or_all, getdiff_GSystemCfg, lhs->system, rhs->system, key, out);
     descend(changed_or_all, getdiff_GPonCfg, lhs->pon, rhs->pon, key, out);
     return false;
@@ -55,8 +58,9 @@ bool getdiff_GCfg(GCfg* lhs, GCfg* rhs, int* key, List<char>& out)
 
 bool getdiff_GPonCfg(GPonCfg* lhs, GPonCfg* rhs, int* key, List<char>& out)
 {
-    if (nothing_to_emit(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs)) {
         return false;
+    }
     descend(changed_or_all, getdiff_GPonNetworkCfg, lhs->network, rhs->network, key, out);
     descend(changed_or_all, getdiff_GPonProfilesOlt, lhs->profiles_olt, rhs->profiles_olt, key, out);
     descend(changed_or_all, getdiff_GPonProfilesOnt, lhs->profiles_ont, rhs->profiles_ont, key, out);

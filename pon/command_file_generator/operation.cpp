@@ -11,11 +11,13 @@ void Operation::go_to(View view)
 
 char* Operation::finish(Ending ending)
 {
-    if (ending == Ending::commit && !script.empty())
+    if (ending == Ending::commit && !script.empty()) {
         append(script, "commit");
+    }
     char* const text = script.release();
-    if (!text)
+    if (!text) {
         current_view = before_;
+    }
     return text;
 }
 

@@ -130,16 +130,18 @@ char* GetProfileDiff(GPonCfg_t* orig, GPonCfg_t* cfg, char* profile, int id)
 char* GetBlockDiff(GCfg_t* orig, GCfg_t* cfg, char* cmd)
 {
     return from_configure_view(Ending::commit, [&](int* key, List<char>& out) {
-        if (orig && cfg && cmd)
+        if (orig && cfg && cmd) {
             diff_block(cmd, *orig, *cfg, key, out);
+        }
     });
 }
 
 char* GetAlarmDiff(GCfg_t* orig, GCfg_t* cfg)
 {
     return from_configure_view(Ending::commit, [&](int* key, List<char>& out) {
-        if (orig && cfg)
+        if (orig && cfg) {
             getdiff_GSystemAlarmCfg(&orig->system.services.alarm, &cfg->system.services.alarm, key, out);
+        }
     });
 }
 
@@ -149,8 +151,9 @@ char* GetTerminalVlanHeaders()
     operation.go_to(View::configure);
     for (int i = 0; i < GCFG_TERMINAL_VLANS; ++i) {
         const char* const name = getTerminalVlanName(i);
-        if (name && *name != '\0')
+        if (name && *name != '\0') {
             append(operation.script, "gpon network terminal-vlan \"%s\"", name);
+        }
     }
     return operation.finish(Ending::plain);
 }

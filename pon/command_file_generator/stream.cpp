@@ -11,8 +11,9 @@ class PublishedStream {
   public:
     explicit PublishedStream(FILE* file)
     {
-        if (file)
+        if (file) {
             file_to_dump = file;
+        }
     }
     ~PublishedStream() { file_to_dump = nullptr; }
     PublishedStream(const PublishedStream&) = delete;

@@ -13,8 +13,9 @@ Comparison::Comparison(const void* lhs, const void* rhs, std::size_t size)
 {
     for (std::size_t block = 0; block * block_size < size_; ++block) {
         const std::size_t at = block * block_size;
-        if (std::memcmp(lhs_ + at, rhs_ + at, std::min(block_size, size_ - at)) != 0)
+        if (std::memcmp(lhs_ + at, rhs_ + at, std::min(block_size, size_ - at)) != 0) {
             blocks_[block / 64] |= std::uint64_t{1} << (block % 64);
+        }
     }
     current_ = this;
 }
@@ -32,8 +33,9 @@ bool Comparison::range_differs(std::size_t offset, std::size_t size) const
         const std::size_t next = std::min(end, (block + 1) * block_size);
         if (block_differs(block)) {
             const bool whole = next - at == std::min(block_size, size_ - block * block_size);
-            if (whole || std::memcmp(lhs_ + at, rhs_ + at, next - at) != 0)
+            if (whole || std::memcmp(lhs_ + at, rhs_ + at, next - at) != 0) {
                 return true;
+            }
         }
         at = next;
     }
@@ -49,8 +51,9 @@ bool Comparison::differ(const void* lhs, const void* rhs, std::size_t size)
         const std::size_t offset =
             reinterpret_cast<std::uintptr_t>(lhs) - reinterpret_cast<std::uintptr_t>(known->lhs_);
         const std::size_t other = reinterpret_cast<std::uintptr_t>(rhs) - reinterpret_cast<std::uintptr_t>(known->rhs_);
-        if (offset == other && offset <= known->size_ && size <= known->size_ - offset)
+        if (offset == other && offset <= known->size_ && size <= known->size_ - offset) {
             return known->range_differs(offset, size);
+        }
     }
     return std::memcmp(lhs, rhs, size) != 0;
 }

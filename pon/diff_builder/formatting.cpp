@@ -18,8 +18,9 @@ void append_hexadecimal(Text& out, std::uint64_t value, std::size_t least_digits
     char digits[2 + 16];
     char* at = digits + sizeof digits;
     std::size_t count = 0;
-    for (; value != 0 || count < least_digits; value /= 16, ++count)
+    for (; value != 0 || count < least_digits; value /= 16, ++count) {
         *--at = "0123456789ABCDEF"[value % 16];
+    }
     *--at = 'x';
     *--at = '0';
     out.append(at, count + 2);
@@ -28,8 +29,9 @@ void append_hexadecimal(Text& out, std::uint64_t value, std::size_t least_digits
 void append_ipv4(Text& out, const std::uint8_t* address)
 {
     for (int i = 0; i < 4; ++i) {
-        if (i != 0)
+        if (i != 0) {
             out.append('.');
+        }
         out.append_natural(address[i]);
     }
 }
@@ -75,16 +77,18 @@ void Value::append_to(Text& out) const
         append_hexadecimal(out, static_cast<std::uint64_t>(number_), size_);
         break;
     case Notation::decimal_or_unused:
-        if (number_ == -1)
+        if (number_ == -1) {
             out.append("unused");
-        else
+        } else {
             out.append_decimal(number_);
+        }
         break;
     case Notation::ber_interval:
-        if (static_cast<std::uint32_t>(number_) == no_ber_interval)
+        if (static_cast<std::uint32_t>(number_) == no_ber_interval) {
             out.append("none");
-        else
+        } else {
             out.append_natural(static_cast<std::uint32_t>(number_));
+        }
         break;
     case Notation::channel_format:
         append_channel_format(out, static_cast<const char*>(bytes_), size_);
@@ -131,14 +135,16 @@ void append_formatted(Text& out, const char* format, const Value* values, std::s
 
 void str_replace(char* text, const char* needle, const char* replacement)
 {
-    if (!text || !needle || !replacement)
+    if (!text || !needle || !replacement) {
         return;
+    }
     const std::size_t size = std::strlen(replacement);
     // A replacement that is a prefix of the needle would change nothing, so the search would never end; an empty needle
     // would be found everywhere. Any other replacement makes the text larger, or smaller, in the order of its bytes
     // each time: the search ends.
-    if (*needle == '\0' || std::strncmp(needle, replacement, size) == 0)
+    if (*needle == '\0' || std::strncmp(needle, replacement, size) == 0) {
         return;
+    }
     const bool again_behind = std::strstr(replacement, needle) != nullptr;
     const char* const end = text + std::strlen(text);
     char* from = text;

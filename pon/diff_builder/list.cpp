@@ -15,13 +15,15 @@ template <class T>
 bool List<T>::push_back(T* elem)
 {
     auto* const node = static_cast<ListElem<T>*>(std::malloc(sizeof(ListElem<T>)));
-    if (!node)
+    if (!node) {
         return false;
+    }
     *node = {elem, nullptr};
-    if (last)
+    if (last) {
         last->next = node;
-    else
+    } else {
         first = node;
+    }
     last = node;
     ++lsize;
     return true;
@@ -56,11 +58,13 @@ void List<T>::delete_elem(ListElem<T>* node)
 {
     ListElem<T>* before = nullptr;
     for (ListElem<T>* at = first; at; before = at, at = at->next) {
-        if (at != node)
+        if (at != node) {
             continue;
+        }
         (before ? before->next : first) = node->next;
-        if (last == node)
+        if (last == node) {
             last = before;
+        }
         --lsize;
         std::free(node);
         return;

@@ -21,23 +21,26 @@ bool no_profile(const Profile* lhs, const Profile* rhs)
 template <class Profile>
 void emit_profile_name(Rule rule, const Profile* lhs, const Profile* rhs, const Where& where)
 {
-    if (forced(rule) || (lhs->exist == 1 && wanted(changed_only, lhs->name, rhs->name)))
+    if (forced(rule) || (lhs->exist == 1 && wanted(changed_only, lhs->name, rhs->name))) {
         emit(where, "name \"%s\"", text_of(rhs->name));
+    }
 }
 
 /// A profile that did not exist is created by entering its view: the navigation is all that is emitted.
 template <class Profile>
 void enter_new_profile(const Profile* lhs, const Profile* rhs, const Where& where)
 {
-    if (lhs->exist == 0 && rhs->exist == 1)
+    if (lhs->exist == 0 && rhs->exist == 1) {
         navigate(where);
+    }
 }
 
 template <class Profile>
 void emit_profile_description(const Profile* lhs, const Profile* rhs, const Where& where)
 {
-    if (wanted(changed_or_all, lhs->description, rhs->description))
+    if (wanted(changed_or_all, lhs->description, rhs->description)) {
         emit(where, "description \"%s\"", text_of(rhs->description));
+    }
 }
 
 /// The first commands of most kinds.
@@ -55,8 +58,9 @@ template <std::size_t N>
 void emit_id_format(const Where& where, const char* command, const char (&lhs)[N], const char (&rhs)[N],
                     GDataMode_t mode)
 {
-    if (wanted(changed_or_all, lhs, rhs))
+    if (wanted(changed_or_all, lhs, rhs)) {
         emit(where, command, channel_format_of(rhs), mode != 0 ? " binary" : "");
+    }
 }
 
 /// The version and file of the ONT's configuration, one command. A new file is emitted only together with a new
@@ -64,13 +68,15 @@ void emit_id_format(const Where& where, const char* command, const char (&lhs)[N
 template <class Profile>
 void emit_ont_config(const Profile* lhs, const Profile* rhs, const Where& where)
 {
-    if (!wanted(changed_or_all, lhs->ont_config_version, rhs->ont_config_version))
+    if (!wanted(changed_or_all, lhs->ont_config_version, rhs->ont_config_version)) {
         return;
-    if (wanted(changed_or_all, lhs->ont_config_file, rhs->ont_config_file))
+    }
+    if (wanted(changed_or_all, lhs->ont_config_file, rhs->ont_config_file)) {
         emit(where, "ont-config version \"%s\" file \"%s\"", text_of(rhs->ont_config_version),
              text_of(rhs->ont_config_file));
-    else
+    } else {
         emit(where, "ont-config version \"%s\"", text_of(rhs->ont_config_version));
+    }
 }
 
 } // namespace pondiff

@@ -49,13 +49,15 @@ void format_command(Text& line, const Where& where, const char* format, const Va
 
 bool navigate(const Where& where)
 {
-    if (stands_at(where.view, where.key))
+    if (stands_at(where.view, where.key)) {
         return Script::of(where.out) || push(where.out, Text()); // a script has no use for empty elements
+    }
     const view_state before = current_view;
     PON_SCRATCH Text text;
     goto_view(where.view, where.key, text);
-    if (push(where.out, text))
+    if (push(where.out, text)) {
         return true;
+    }
     current_view = before; // the navigation is not in the script: the next command needs one
     return false;
 }
@@ -81,8 +83,9 @@ namespace {
 void emit_parts(const Where& where, const char* format, const RowData::Parts& parts, const Value* value)
 {
     constexpr std::uint8_t none = RowData::Parts::none;
-    if (!navigate(where))
+    if (!navigate(where)) {
         return;
+    }
     PON_SCRATCH Text text;
     std::size_t done = 0;
     std::uint8_t next = parts.first;
@@ -94,21 +97,25 @@ void emit_parts(const Where& where, const char* format, const RowData::Parts& pa
         filling.append_to(text);
         values_hold_marks = values_hold_marks || filling.may_hold_mark();
         done = next + 2U;
-        if (next < parts.mark)
+        if (next < parts.mark) {
             mark += text.size() - before - 2;
+        }
         next = parts.second;
     };
-    if (where.lead && next != none)
+    if (where.lead && next != none) {
         fill(*where.lead);
-    if (value && next != none)
+    }
+    if (value && next != none) {
         fill(*value);
+    }
     text.append(format + done, parts.size - done);
     const int slot = parts.mark != none ? format[parts.mark + 3] - '0' : -1;
     // The object may be shown by name; any other placeholder is overwritten by a number of the same width.
-    if (values_hold_marks || slot == of_object)
+    if (values_hold_marks || slot == of_object) {
         substitute(text, where.key);
-    else if (slot != -1 && !text.failed())
+    } else if (slot != -1 && !text.failed()) {
         put_identifier(text.data() + mark, where.key[slot]);
+    }
     push(where.out, text);
 }
 
@@ -121,23 +128,26 @@ void emit_row(const RowData& row, bool force, const void* lhs, const void* rhs, 
     const bool is_number = holds_number(row);
     const std::int64_t mask = row.kind == RowData::Kind::flag && row.detail != 0 ? row.detail : -1;
     const std::int64_t number = is_number ? load(field, row) & mask : 0;
-    if (!force && (is_number ? number == (load(before, row) & mask) : std::memcmp(before, field, row.compared) == 0))
+    if (!force && (is_number ? number == (load(before, row) & mask) : std::memcmp(before, field, row.compared) == 0)) {
         return;
+    }
     const auto emit_value = [&](const Value& value) { emit_parts(where, row.format, row.parts, &value); };
     switch (row.kind) {
     case RowData::Kind::flag:
-        if (number != 0)
+        if (number != 0) {
             emit_parts(where, row.format, row.parts, nullptr);
-        else
+        } else {
             emit_parts(where, row.extra.words, row.extra_parts, nullptr);
+        }
         break;
     case RowData::Kind::content:
-        if (is_number)
+        if (is_number) {
             emit_value(Value::of_number(row.notation, number, row.detail));
-        else if (row.notation == Value::Notation::text || row.notation == Value::Notation::channel_format)
+        } else if (row.notation == Value::Notation::text || row.notation == Value::Notation::channel_format) {
             emit_value(Value::of_text(field, row.size, row.notation));
-        else
+        } else {
             emit_value(Value::of_bytes(row.notation, field));
+        }
         break;
     case RowData::Kind::word:
         emit_value(row.extra.name(static_cast<int>(number)));
@@ -146,8 +156,9 @@ void emit_row(const RowData& row, bool force, const void* lhs, const void* rhs, 
         emit_value(enum_word(row.extra.words, number));
         break;
     case RowData::Kind::reference:
-        if (const char* const name = row.extra.name(static_cast<int>(number)))
+        if (const char* const name = row.extra.name(static_cast<int>(number))) {
             emit_value(name);
+        }
         break;
     }
 }

@@ -109,17 +109,20 @@ struct RowData {
         {
             for (; format && format[size] != '\0'; ++size) {
                 if (format[size] == '%') {
-                    if (second != none)
+                    if (second != none) {
                         more_than_two_conversions();
+                    }
                     (first == none ? first : second) = size;
                 }
                 if (format[size] == '$') {
-                    if (mark != none)
+                    if (mark != none) {
                         more_than_one_placeholder();
+                    }
                     mark = size;
                 }
-                if (size == none - 1)
+                if (size == none - 1) {
                     too_long();
+                }
             }
         }
         /// Not constexpr: a template that breaks the rule does not compile.
@@ -346,8 +349,9 @@ template <class Record, std::size_t N>
 void emit_changed(const Row<Record> (&table)[N], Rule rule, const Record* lhs, const Record* rhs, const Where& where)
 {
     const bool force = forced(rule);
-    for (const Row<Record>& row : table)
+    for (const Row<Record>& row : table) {
         emit_row(row.data, force, lhs, rhs, where);
+    }
 }
 
 // -------------------------------------------------------------------------------------------- records in a record
@@ -357,8 +361,9 @@ template <class Result, class Part>
 void descend(Rule rule, Result (*diff)(Part*, Part*, int*, List<char>&), Part& lhs, Part& rhs, int* key,
              List<char>& out)
 {
-    if (wanted(rule, lhs, rhs))
+    if (wanted(rule, lhs, rhs)) {
         diff(&lhs, &rhs, key, out);
+    }
 }
 
 /// The same for each element of an array. Its index is stored in the key's slot, whether the element is wanted or not.

@@ -24,10 +24,12 @@ bool Script::grow(std::size_t more)
     constexpr std::size_t doubled_until = std::size_t{1} << 20;
     // Small texts double; large ones grow by a third, so that little memory is allocated beyond the text.
     std::size_t wanted = capacity_ < doubled_until ? capacity_ * 2 : capacity_ + capacity_ / 3;
-    if (wanted < least)
+    if (wanted < least) {
         wanted = least;
-    if (wanted < size_ + more + 1)
+    }
+    if (wanted < size_ + more + 1) {
         wanted = size_ + more + 1;
+    }
     auto* const bigger = static_cast<char*>(std::realloc(text_, wanted));
     if (!bigger) {
         failed_ = true;
@@ -42,10 +44,12 @@ void Script::append_line(const Text& line)
 {
     failed_ = failed_ || line.failed();
     const std::size_t size = line.size();
-    if (failed_ || size == 0 || *line.data() == '\n')
+    if (failed_ || size == 0 || *line.data() == '\n') {
         return;
-    if (capacity_ - size_ <= size + 1 && !grow(size + 1))
+    }
+    if (capacity_ - size_ <= size + 1 && !grow(size + 1)) {
         return;
+    }
     std::memcpy(text_ + size_, line.data(), size);
     size_ += size;
     text_[size_++] = '\n';
@@ -53,13 +57,15 @@ void Script::append_line(const Text& line)
 
 char* Script::release()
 {
-    if (failed_)
+    if (failed_) {
         return nullptr;
+    }
     auto* const fitted = static_cast<char*>(std::realloc(text_, size_ + 1));
-    if (fitted)
+    if (fitted) {
         text_ = fitted;
-    else if (!text_)
+    } else if (!text_) {
         return nullptr;
+    }
     text_[size_] = '\0';
     char* const text = text_;
     text_ = nullptr;
@@ -74,10 +80,12 @@ bool push(List<char>& out, const Text& text)
         return !script->failed();
     }
     char* const copy = text.release_copy();
-    if (!copy)
+    if (!copy) {
         return false;
-    if (out.push_back(copy))
+    }
+    if (out.push_back(copy)) {
         return true;
+    }
     std::free(copy);
     return false;
 }

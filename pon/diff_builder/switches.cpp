@@ -7,8 +7,9 @@ int print_common = 1;
 
 bool pondiff::forced(Rule rule)
 {
-    if (print_all == 0)
+    if (print_all == 0) {
         return false;
+    }
     switch (rule) {
     case changed_or_all:
         return true;

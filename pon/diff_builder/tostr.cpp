@@ -18,11 +18,13 @@ char* heap_text(const Value& value, std::size_t capacity)
 {
     Text text;
     value.append_to(text);
-    if (text.failed())
+    if (text.failed()) {
         return nullptr;
+    }
     auto* const block = static_cast<char*>(std::calloc(1, std::max(capacity, text.size() + 1)));
-    if (block)
+    if (block) {
         std::memcpy(block, text.data(), text.size());
+    }
     return block;
 }
 
@@ -38,8 +40,9 @@ char* heap_array(const T* values, int count, std::size_t widest)
 {
     Text text;
     for (int i = 0; i < count; ++i) {
-        if (i != 0)
+        if (i != 0) {
             text.append(',');
+        }
         text.append_decimal(values[i]);
     }
     const std::size_t capacity = count > 0 ? static_cast<std::size_t>(count) * widest : 1;
@@ -73,8 +76,9 @@ char* double_tostr(double value)
     const int size = std::snprintf(nullptr, 0, "%f", value);
     const std::size_t capacity = std::max(number_capacity, static_cast<std::size_t>(size) + 1);
     auto* const text = static_cast<char*>(std::calloc(1, capacity));
-    if (text)
+    if (text) {
         std::snprintf(text, capacity, "%f", value);
+    }
     return text;
 }
 

@@ -9,12 +9,14 @@
 int main(int argc, char** argv)
 {
     static _Alignas(8) const unsigned char bytes[16] = {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15};
-    if (argc != 3)
+    if (argc != 3) {
         return EXIT_FAILURE;
+    }
     const unsigned long width = strtoul(argv[1], NULL, 10);
     const unsigned long offset = strtoul(argv[2], NULL, 10);
-    if (width > 8 || offset > 8)
+    if (width > 8 || offset > 8) {
         return EXIT_FAILURE;
+    }
 
     const void* const place = bytes + offset;
     const volatile uint16_t* const of_2_bytes = place;

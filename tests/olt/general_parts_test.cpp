@@ -240,8 +240,9 @@ TEST(OltShortCycle, OnePairOfPortsNavigatesInEveryPass)
 TEST(OltShortCycle, EveryPairOnAndOff)
 {
     Diff cycle{getdiff_GPonOltGeneralDBAShortCycleCfg};
-    for (const int port : {0, 2, 4, 6})
+    for (const int port : {0, 2, 4, 6}) {
         cycle.after.gpon_port[port] = 65535;
+    }
     EXPECT_EQ(cycle.script(), "configure terminal\n"
                               "gpon olt dba-short-cycle gpon-port 0-1\n"
                               "gpon olt dba-short-cycle gpon-port 2-3\n"

@@ -8,10 +8,12 @@ class GponPort : public testing::Test {
     GponPort()
     {
         GPonProfilesOlt& profiles = session.cfg->pon.profiles_olt;
-        for (const int slot : {3, 4})
+        for (const int slot : {3, 4}) {
             profiles.vlan[slot].exist = 1;
-        for (const int slot : {5, 6})
+        }
+        for (const int slot : {5, 6}) {
             profiles.address_table[slot].exist = 1;
+        }
         put(profiles.vlan[3].name, "office");
         put(profiles.address_table[5].name, "iptv");
         session.open();

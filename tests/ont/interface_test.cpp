@@ -234,19 +234,22 @@ TEST_F(Ont, PrintAllForcesWhateverPartIsWanted)
         ont->profile_ont_alloc[9] = 3;
         ont->profile_ont_management = -1;
         ont->custom_cross_connect[1].exist = 1;
-        for (GPonOntSelectiveTunnel& tunnel : ont->tunnel)
+        for (GPonOntSelectiveTunnel& tunnel : ont->tunnel) {
             tunnel.uvid[0] = -1;
+        }
     }
     for (int service = 0; service < 16; ++service) {
         const std::string prefix = std::string("service ") + (service < 10 ? "   " : "  ") + std::to_string(service);
-        if (service == 1)
+        if (service == 1) {
             expected +=
                 prefix + " custom cvid \"0\"\n" + prefix + " custom svid \"0\"\n" + prefix + " custom cos \"0\"\n";
+        }
         expected += prefix + " selective-tunnel uvid \n";
     }
-    for (const std::string port : {"port    0", "port    1", "port    2", "port    3"})
+    for (const std::string port : {"port    0", "port    1", "port    2", "port    3"}) {
         expected += "no " + port + " shutdown\n" + "no " + port + " poe enable\n" + port +
                     " poe pse-class-control \"0\"\n" + port + " poe power-priority \"invalid value\"\n";
+    }
     diff.all = 1;
     for (const int common : {0, 1, 2}) {
         diff.common = common;

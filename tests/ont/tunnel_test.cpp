@@ -11,8 +11,9 @@ using Vids = std::vector<int>;
 void put(GPonOntSelectiveTunnel& tunnel, const Vids& vids)
 {
     ASSERT_LE(vids.size(), 42U);
-    for (std::size_t i = 0; i < 42; ++i)
+    for (std::size_t i = 0; i < 42; ++i) {
         tunnel.uvid[i] = static_cast<s16>(i < vids.size() ? vids[i] : -1);
+    }
 }
 
 class OntTunnel : public testing::Test {
@@ -31,8 +32,9 @@ class OntTunnel : public testing::Test {
         put(diff.after, vids);
         const Elements elements = diff.elements();
         const std::string begin = "service    3 selective-tunnel uvid ";
-        if (elements.size() != 2 || !elements[0].empty() || elements[1].substr(0, begin.size()) != begin)
+        if (elements.size() != 2 || !elements[0].empty() || elements[1].substr(0, begin.size()) != begin) {
             return "not one command";
+        }
         return elements[1].substr(begin.size());
     }
 
@@ -40,8 +42,9 @@ class OntTunnel : public testing::Test {
     Vids left(std::size_t count) const
     {
         Vids vids;
-        for (std::size_t i = 0; i < count; ++i)
+        for (std::size_t i = 0; i < count; ++i) {
             vids.push_back(diff.after.uvid[i]);
+        }
         return vids;
     }
 
@@ -134,8 +137,9 @@ TEST_F(OntTunnel, ValuesBelowTheMarkPassIt)
 TEST_F(OntTunnel, FullListWithoutAMark)
 {
     Vids descending(42);
-    for (std::size_t i = 0; i < 42; ++i)
+    for (std::size_t i = 0; i < 42; ++i) {
         descending[i] = 42 - static_cast<int>(i);
+    }
     EXPECT_EQ(text_of(descending), "1-42");
     std::reverse(descending.begin(), descending.end());
     EXPECT_EQ(left(42), descending);
@@ -144,8 +148,9 @@ TEST_F(OntTunnel, FullListWithoutAMark)
 TEST_F(OntTunnel, FullListWithItsLastValueApart)
 {
     Vids vids(42);
-    for (std::size_t i = 0; i < 41; ++i)
+    for (std::size_t i = 0; i < 41; ++i) {
         vids[i] = static_cast<int>(i);
+    }
     vids[41] = 4094;
     EXPECT_EQ(text_of(vids), "0-40,4094");
 }
@@ -153,16 +158,18 @@ TEST_F(OntTunnel, FullListWithItsLastValueApart)
 TEST_F(OntTunnel, MarkInTheLastPlace)
 {
     Vids vids(41);
-    for (std::size_t i = 0; i < 41; ++i)
+    for (std::size_t i = 0; i < 41; ++i) {
         vids[i] = 41 - static_cast<int>(i);
+    }
     EXPECT_EQ(text_of(vids), "1-41");
 }
 
 TEST_F(OntTunnel, AllEqual)
 {
     std::string expected = "7";
-    for (int i = 1; i < 42; ++i)
+    for (int i = 1; i < 42; ++i) {
         expected += ",7";
+    }
     EXPECT_EQ(text_of(Vids(42, 7)), expected);
     EXPECT_EQ(left(42), Vids(42, 7));
 }
@@ -170,8 +177,9 @@ TEST_F(OntTunnel, AllEqual)
 TEST_F(OntTunnel, TextIsNeverCut)
 {
     std::string expected = "-32768";
-    for (int i = 1; i < 42; ++i)
+    for (int i = 1; i < 42; ++i) {
         expected += ",-32768";
+    }
     ASSERT_EQ(expected.size(), 293U);
     EXPECT_EQ(text_of(Vids(42, -32768)), expected);
 
@@ -189,11 +197,13 @@ TEST_F(OntTunnel, NeighboursOfTheListAreLeftAlone)
     for (const int service : {0, 7, 15}) {
         GPonOntCfg ont;
         std::memset(&ont, 0x5A, sizeof ont);
-        for (int i = 0; i < 42; ++i)
+        for (int i = 0; i < 42; ++i) {
             ont.tunnel[service].uvid[i] = static_cast<s16>(42 - i);
+        }
         GPonOntCfg expected = ont;
-        for (int i = 0; i < 42; ++i)
+        for (int i = 0; i < 42; ++i) {
             expected.tunnel[service].uvid[i] = static_cast<s16>(i + 1);
+        }
         List<char> out;
         int key[10] = {};
         getdiff_GPonOntSelectiveTunnel(&ont.tunnel[service], &ont.tunnel[service], key, out);
@@ -207,11 +217,14 @@ TEST_F(OntTunnel, NeighboursOfTheListAreLeftAlone)
 Vids sorted_by_passes(Vids vids)
 {
     for (std::size_t pass = 0; pass < 41; ++pass) {
-        if (vids[pass] == -1)
+        if (vids[pass] == -1) {
             break;
-        for (std::size_t j = 0; j <= 40 - pass; ++j)
-            if (vids[j + 1] != -1 && vids[j + 1] < vids[j])
+        }
+        for (std::size_t j = 0; j <= 40 - pass; ++j) {
+            if (vids[j + 1] != -1 && vids[j + 1] < vids[j]) {
                 std::swap(vids[j], vids[j + 1]);
+            }
+        }
     }
     return vids;
 }
@@ -227,8 +240,9 @@ std::string ranges_of(const Vids& vids)
         } else if (vids[k] == last + 1) {
             run = true;
         } else {
-            if (run)
+            if (run) {
                 text += "-" + std::to_string(last);
+            }
             run = false;
             text += "," + std::to_string(vids[k]);
         }
@@ -244,10 +258,12 @@ TEST_F(OntTunnel, AnyListIsSortedAndWrittenInPlainSteps)
         const int widest = round % 3 == 0 ? 4 : round % 3 == 1 ? 30 : 32767;
         std::uniform_int_distribution<int> any(round % 2 == 0 ? 0 : -widest, widest);
         Vids vids(42);
-        for (int& vid : vids)
+        for (int& vid : vids) {
             vid = any(random);
-        for (int marks = round % 4; marks > 0; --marks)
+        }
+        for (int marks = round % 4; marks > 0; --marks) {
             vids[random() % 42] = -1;
+        }
         const Vids expected = sorted_by_passes(vids);
         ASSERT_EQ(text_of(vids), ranges_of(expected)) << testing::PrintToString(vids);
         ASSERT_EQ(left(42), expected) << testing::PrintToString(vids);

@@ -378,8 +378,9 @@ TEST_F(AddressTableProfile, FullDumpShowsSlotsWithANumberOnEitherSide)
 TEST_F(AddressTableProfile, FullDumpOf512SlotsShowsFiveCommandsOfEach)
 {
     diff.all = 1;
-    for (int slot = 0; slot < 512; ++slot)
+    for (int slot = 0; slot < 512; ++slot) {
         diff.after.svlan_config[slot].svlan = static_cast<s16>(slot + 1);
+    }
     diff.before = diff.after;
     std::string expected = "configure terminal\nprofile address-table \"office\"\n"
                            "name \"office\"\n"
@@ -389,8 +390,9 @@ TEST_F(AddressTableProfile, FullDumpOf512SlotsShowsFiveCommandsOfEach)
     for (int svlan = 1; svlan <= 512; ++svlan) {
         const std::string number = std::to_string(svlan);
         expected += "s-vlan " + number + " forwarding-mode \"n-to-1\"\n";
-        for (const char* setting : {"use s-vlan", "use c-vlan", "use pbits", "discard-unknown"})
+        for (const char* setting : {"use s-vlan", "use c-vlan", "use pbits", "discard-unknown"}) {
             expected += "no s-vlan " + number + " " + setting + "\n";
+        }
     }
     EXPECT_EQ(script(), expected);
 }

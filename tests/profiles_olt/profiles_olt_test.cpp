@@ -66,8 +66,9 @@ TEST_F(OltProfiles, KindsInOrderWhateverTheirSlots)
 
 TEST_F(OltProfiles, EveryStateOfAVlanProfile)
 {
-    for (const int slot : {0, 1, 31})
+    for (const int slot : {0, 1, 31}) {
         name(orig.vlan[slot], "old" + std::to_string(slot));
+    }
     cfg = orig;
     cfg.vlan[0] = GPonProfileOltVlan{};
     put(cfg.vlan[1].name, "new1");
@@ -96,15 +97,19 @@ TEST_F(OltProfiles, FullDumpReachesEveryProfileInOrder)
     diff.all = 1;
 
     std::string expected;
-    for (const char* kind : {"vlan \"v", "address-table \"a", "pppoe-ia \"p", "dhcp-ra \"d", "dhcpv6-ra \"six"})
-        for (int slot = 0; slot < 32; ++slot)
+    for (const char* kind : {"vlan \"v", "address-table \"a", "pppoe-ia \"p", "dhcp-ra \"d", "dhcpv6-ra \"six"}) {
+        for (int slot = 0; slot < 32; ++slot) {
             expected += "profile " + std::string(kind) + std::to_string(slot) + "\"\n";
+        }
+    }
 
     std::istringstream lines(script());
     std::string entered;
-    for (std::string line; std::getline(lines, line);)
-        if (line.rfind("profile ", 0) == 0)
+    for (std::string line; std::getline(lines, line);) {
+        if (line.rfind("profile ", 0) == 0) {
             entered += line + "\n";
+        }
+    }
     EXPECT_EQ(entered, expected);
 }
 

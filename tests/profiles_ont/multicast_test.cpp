@@ -282,8 +282,9 @@ TEST_F(Multicast, CommandsEnterTheViewOfThePortsProfile)
     put(session.cfg->pon.profiles_ont.ports[3].name, "four");
     session.open();
     for (DiffRun* run : {static_cast<DiffRun*>(&igmp), static_cast<DiffRun*>(&mld), static_cast<DiffRun*>(&entry),
-                         static_cast<DiffRun*>(&entry_v6)})
+                         static_cast<DiffRun*>(&entry_v6)}) {
         run->view = "root";
+    }
     igmp.after.robustness = 2;
     EXPECT_EQ(igmp.script(), "configure terminal\nprofile ports \"four\"\nigmp robustness \"2\"\n");
     mld.after.robustness = 2;

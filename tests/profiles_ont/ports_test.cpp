@@ -379,8 +379,9 @@ TEST_F(PortsProfile, DumpShowsEveryPartOfEqualProfiles)
     diff.all = 1;
     const Elements elements = diff.elements();
     Elements lines;
-    for (std::size_t i = 1; i < elements.size(); i += 2)
+    for (std::size_t i = 1; i < elements.size(); i += 2) {
         lines.push_back(elements[i]);
+    }
     // Head 2 and version 1; IGMP 8 and 20 entries of 2; MLD 8 and 20 entries of 6; VEIP 9; 4 ports of 20.
     ASSERT_EQ(lines.size(), 3U + 48U + 128U + 9U + 80U);
     EXPECT_EQ(lines[0], "name \"gold\"");

@@ -67,12 +67,14 @@ TEST_F(OntProfiles, KindsInOrderEachByAscendingSlot)
 TEST_F(OntProfiles, OtherKeySlotsAreLeftAsTheyAre)
 {
     after.voice[3].revision = 9;
-    for (int slot = 0; slot < 10; ++slot)
+    for (int slot = 0; slot < 10; ++slot) {
         diff->key[slot] = 100 + slot;
+    }
     EXPECT_EQ(walk(), "");
     EXPECT_EQ(diff->key[0], 31);
-    for (int slot = 1; slot < 10; ++slot)
+    for (int slot = 1; slot < 10; ++slot) {
         EXPECT_EQ(diff->key[slot], 100 + slot);
+    }
 }
 
 TEST_F(OntProfiles, FreeSlotsThatDifferSayNothing)

@@ -323,10 +323,12 @@ std::vector<int> statuses_of_failures(const Storm& before, const Storm& after)
     std::vector<int> statuses;
     for (int granted = 0; granted < 100; ++granted) {
         const int status = run_storm(before, after, granted).status;
-        if (statuses.empty() || statuses.back() != status)
+        if (statuses.empty() || statuses.back() != status) {
             statuses.push_back(status);
-        if (status == 0)
+        }
+        if (status == 0) {
             break;
+        }
     }
     return statuses;
 }

@@ -22,8 +22,9 @@ class Access : public Writing {
     /// Lets others make files in the folder; false when they do not reach the program.
     bool open_to_others() const
     {
-        if (geteuid() != 0 || !reachable_by_others())
+        if (geteuid() != 0 || !reachable_by_others()) {
             return false;
+        }
         std::filesystem::permissions(path("."), std::filesystem::perms(0777));
         return true;
     }
@@ -60,8 +61,9 @@ class Access : public Writing {
 
 TEST_F(Access, AclIsKept)
 {
-    if (!set_acl("--set u::rw-,u:daemon:r--,g::---,m::rw-,o::---", "script"))
+    if (!set_acl("--set u::rw-,u:daemon:r--,g::---,m::rw-,o::---", "script")) {
         GTEST_SKIP() << "no ACLs here";
+    }
     // The mode alone would give the group what the mask allows.
     ASSERT_EQ(mode("script"), 0660U);
     const Outcome outcome = write_script_to("script");
@@ -73,8 +75,9 @@ TEST_F(Access, AclIsKept)
 TEST_F(Access, AclOfTheFolderIsNotTakenForThatOfTheFile)
 {
     std::filesystem::permissions(path("script"), std::filesystem::perms(0660));
-    if (!set_acl("-d -m u:daemon:rw", "."))
+    if (!set_acl("-d -m u:daemon:rw", ".")) {
         GTEST_SKIP() << "no ACLs here";
+    }
     EXPECT_EQ(write_script_to("script").status, 1);
     EXPECT_EQ(read("script"), script);
     EXPECT_EQ(acl("script"), "user::rw-\ngroup::rw-\nother::---\n\n");
@@ -82,8 +85,9 @@ TEST_F(Access, AclOfTheFolderIsNotTakenForThatOfTheFile)
 
 TEST_F(Access, NewFileIsForItsOwnerAloneWhateverTheFolderPrescribes)
 {
-    if (!set_acl("-d -m u:daemon:rw,g::rw,o::r", "."))
+    if (!set_acl("-d -m u:daemon:rw,g::rw,o::r", ".")) {
         GTEST_SKIP() << "no ACLs here";
+    }
     EXPECT_EQ(write_script_to("new").status, 1);
     EXPECT_EQ(mode("new"), 0600U);
     EXPECT_THAT(acl("new"), HasSubstr("\nother::---\n"));
@@ -94,8 +98,9 @@ TEST_F(Access, NewFileIsForItsOwnerAloneWhateverTheFolderPrescribes)
 
 TEST_F(Access, SuperUserKeepsOwnerAndGroup)
 {
-    if (geteuid() != 0)
+    if (geteuid() != 0) {
         GTEST_SKIP() << "only for the super-user";
+    }
     set_owner(1234, 5678);
     EXPECT_EQ(write_script_to("script").status, 1);
     EXPECT_EQ(read("script"), script);
@@ -104,8 +109,9 @@ TEST_F(Access, SuperUserKeepsOwnerAndGroup)
 
 TEST_F(Access, FileOfSomebodyElseIsNotReplaced)
 {
-    if (!open_to_others())
+    if (!open_to_others()) {
         GTEST_SKIP() << "only for the super-user, where others reach the program";
+    }
     std::filesystem::permissions(path("script"), std::filesystem::perms(0666));
     expect_error(write_script_to("script", as_somebody_else()), not_kept);
     EXPECT_EQ(read("script"), "old\n");
@@ -116,8 +122,9 @@ TEST_F(Access, FileOfSomebodyElseIsNotReplaced)
 
 TEST_F(Access, FileOfAnotherGroupIsReplacedByAMemberAlone)
 {
-    if (!open_to_others())
+    if (!open_to_others()) {
         GTEST_SKIP() << "only for the super-user, where others reach the program";
+    }
     set_owner(nobody, 5678);
     std::filesystem::permissions(path("script"), std::filesystem::perms(0660));
     Surroundings surroundings = as_somebody_else();

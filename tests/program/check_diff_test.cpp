@@ -28,8 +28,9 @@ class CheckDiff : public ProgramTest {
                 const Arguments& more = {}) const
     {
         std::string text;
-        for (const std::string& finding : findings)
+        for (const std::string& finding : findings) {
             text += "pondiff: cfg.json: " + finding + "\n";
+        }
         const Outcome outcome = between(orig, cfg, more);
         EXPECT_EQ(besides_not_applied(outcome.err), text) << cfg;
         EXPECT_NE(outcome.status, 2);
@@ -48,8 +49,9 @@ std::string pon(const std::string& fields)
 std::string refusal(const std::vector<std::string>& findings)
 {
     std::string text;
-    for (const std::string& finding : findings)
+    for (const std::string& finding : findings) {
         text += "pondiff: cfg.json: " + finding + "\n";
+    }
     return text + "pondiff: no script is written: it would not do what it shows; --force writes it\n";
 }
 

@@ -32,8 +32,9 @@ class Check : public ProgramTest {
     void expect(const std::string& document, const std::vector<std::string>& findings) const
     {
         std::string text;
-        for (const std::string& finding : findings)
+        for (const std::string& finding : findings) {
             text += "cfg.json: " + finding + "\n";
+        }
         const Outcome outcome = of(document);
         EXPECT_EQ(outcome.out, text) << document;
         EXPECT_EQ(outcome.err, "") << document;
@@ -89,10 +90,13 @@ TEST_F(Check, ControlCharacters)
 
 TEST_F(Check, PlaceholdersAreThoseThatTheScriptReplaces)
 {
-    for (const char* const value : {"$ID0", "olt $ID9", "$ID", "$ID1$ID12", "$ID x", "$ID 3", "$ID+3", "$ID-0", "$ID-"})
+    for (const char* const value :
+         {"$ID0", "olt $ID9", "$ID", "$ID1$ID12", "$ID x", "$ID 3", "$ID+3", "$ID-0", "$ID-"}) {
         expect(hostname(value), {std::string("system.network.hostname: \"") + value + "\" holds a placeholder"});
-    for (const char* const value : {"$ID10", "$ID12", "$ID-1", "$ID 12", "$I", "$id0", "ID0", "$ ID0"})
+    }
+    for (const char* const value : {"$ID10", "$ID12", "$ID-1", "$ID 12", "$I", "$id0", "ID0", "$ ID0"}) {
         expect_nothing(hostname(value));
+    }
 }
 
 TEST_F(Check, TextThatFillsItsField)
@@ -143,8 +147,9 @@ TEST_F(Check, TextsThatNoCommandShowsMayHoldAnything)
            {"system.services.acs.login: \"" +
             [] {
                 std::string quotes;
-                for (int i = 0; i < 32; ++i)
+                for (int i = 0; i < 32; ++i) {
                     quotes += "\\\"";
+                }
                 return quotes;
             }() +
             "\" has no end within its 32 bytes"});
@@ -418,8 +423,9 @@ TEST_F(Check, ErrorsAreReported)
 TEST_F(Check, AnyRecordIsLookedAt)
 {
     std::string record;
-    for (unsigned i = 0; record.size() < sizeof(GCfg); ++i)
+    for (unsigned i = 0; record.size() < sizeof(GCfg); ++i) {
         record += static_cast<char>((i * 2654435761U) >> 24);
+    }
     write("odd.bin", record);
     const Outcome outcome = run({"check", "odd.bin"});
     EXPECT_THAT(outcome.out, HasSubstr("odd.bin: pon.ont.531."));

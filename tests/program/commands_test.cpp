@@ -105,8 +105,9 @@ TEST_F(Show, AnyRecordComesBackFromItsDocument)
 {
     // Every byte differs from its neighbours, so that texts are unterminated and numbers out of the usual.
     std::string record;
-    for (unsigned i = 0; record.size() < sizeof(GCfg); ++i)
+    for (unsigned i = 0; record.size() < sizeof(GCfg); ++i) {
         record += static_cast<char>((i * 2654435761U) >> 24);
+    }
     write("odd.bin", record);
     ASSERT_EQ(run({"show", "odd.bin", "-o", "odd.json"}).status, 0);
     ASSERT_EQ(run({"pack", "odd.json", "-o", "again.bin"}).status, 0);
@@ -148,8 +149,9 @@ class CommandLine : public ProgramTest {
     {
         std::vector<Arguments> pages{{"--help"}};
         std::istringstream candidates(run({"complete", "--", ""}).out);
-        for (std::string line; std::getline(candidates, line);)
+        for (std::string line; std::getline(candidates, line);) {
             pages.push_back({line.substr(0, line.find('\t')), "--help"});
+        }
         EXPECT_GT(pages.size(), 4U);
         return pages;
     }

@@ -73,8 +73,9 @@ TEST_F(Complete, FilesAreLeftToTheShell)
          {Arguments{"diff", ""}, Arguments{"diff", "run"}, Arguments{"diff", "a.bin", "b.bin", ""},
           Arguments{"pack", "-o", ""}, Arguments{"pack", "--output", "-"}, Arguments{"pack", "--output=x"},
           Arguments{"diff", "--only", "alarm", ""}, Arguments{"diff", "--", "-"}, Arguments{"diff", "-", ""},
-          Arguments{"diff", "--strict", ""}})
+          Arguments{"diff", "--strict", ""}}) {
         expect(words, "files\n");
+    }
 }
 
 TEST_F(Complete, Areas)

@@ -107,10 +107,11 @@ TEST_F(Descriptors, InputIsNotReplaced)
     const int descriptor = open(path("cfg.json").c_str(), O_RDWR | O_CLOEXEC);
     Surroundings surroundings;
     surroundings.descriptors = {{5, descriptor}};
-    for (const char* const name : {"cfg.json", "./cfg.json", "hard", "soft", "/dev/fd/5"})
+    for (const char* const name : {"cfg.json", "./cfg.json", "hard", "soft", "/dev/fd/5"}) {
         expect_error(write_script_to(name, surroundings), std::string("pondiff: ") + name +
                                                               ": is an input as well; choose another file for the "
                                                               "output\n");
+    }
     expect_error(run({"pack", "cfg.json", "-o", "cfg.json"}),
                  "pondiff: cfg.json: is an input as well; choose another file for the output\n");
     surroundings.descriptors = {{0, descriptor}};

@@ -56,11 +56,12 @@ void collect(const Record& record, std::size_t offset, std::size_t element, Path
         const std::size_t index = std::min(element, field.count - std::size_t{1});
         const std::size_t at = offset + field.offset + index * field.width;
         path.push(field, index);
-        if (field.record != nullptr)
+        if (field.record != nullptr) {
             collect(*field.record, at, element, path, fields);
-        else if (is_text(field))
+        } else if (is_text(field)) {
             fields.push_back({path.text(), full_name(field), at, field.width, offset, record.size, flag_of(record),
                               field.name == "name" && flag_of(record) != nullptr, field.silent});
+        }
         path.pop();
     }
 }
@@ -107,10 +108,13 @@ std::string with_mark_as(char character, std::string text)
 template <std::size_t N>
 void collect_marks(char* const (&names)[N], std::vector<char*>& marks)
 {
-    for (char* const name : names)
-        for (char* at = name; at != nullptr && *at != '\0'; ++at)
-            if (*at == mark)
+    for (char* const name : names) {
+        for (char* at = name; at != nullptr && *at != '\0'; ++at) {
+            if (*at == mark) {
                 marks.push_back(at);
+            }
+        }
+    }
 }
 
 /// Where the mark stands in the names that the session has copied.
@@ -137,9 +141,10 @@ class Injection : public testing::Test {
     Injection()
     {
         for_each_leaf(gcfg_record, [this](const Leaf& leaf) {
-            for (std::size_t i = 0; is_text(leaf.field) && i < leaf.field.width; ++i)
+            for (std::size_t i = 0; is_text(leaf.field) && i < leaf.field.width; ++i) {
                 bytes(*equal)[leaf.offset + i] =
                     i % 2 == 0 ? 'y' : 'z'; // without an end, so that reading on would show
+            }
         });
         *orig = *cfg = *equal;
     }
@@ -167,10 +172,12 @@ class Injection : public testing::Test {
                 return taken(GetProfileDiff(&orig->pon, &cfg->pon, word, last));
             }
         }
-        if (begins(field.path, "system.")) // stays in the view of the last command
+        if (begins(field.path, "system.")) { // stays in the view of the last command
             return at_top_level(GetSystemDiff(&orig->system, &cfg->system));
-        if (begins(field.path, "pon.ont."))
+        }
+        if (begins(field.path, "pon.ont.")) {
             return taken(GetGponOntDiff(&orig->pon.ont[GCFG_ONTS - 1], &cfg->pon.ont[GCFG_ONTS - 1], GCFG_ONTS - 1));
+        }
         char network[] = "network";
         char olt[] = "olt";
         return taken(GetBlockDiff(orig.get(), cfg.get(), begins(field.path, "pon.network.") ? network : olt));
@@ -186,8 +193,9 @@ class Injection : public testing::Test {
     /// Puts the byte wherever the mark is.
     void put(char byte)
     {
-        for (char* const at : marks)
+        for (char* const at : marks) {
             *at = byte;
+        }
     }
     void differ_in_references();
     /// Checks the script of every byte in the place.
@@ -218,35 +226,43 @@ class Injection : public testing::Test {
 
 void Injection::prepare(const TextField& field, Change change, Place place)
 {
-    if (change == Change::referred_to)
+    if (change == Change::referred_to) {
         differ_in_references();
-    else
+    } else {
         std::memcpy(bytes(*orig) + field.record, bytes(*blank) + field.record, field.record_size);
+    }
     if (change == Change::added || change == Change::removed) {
         GCfg& without = change == Change::added ? *orig : *cfg;
         set_number(*field.exists,
                    reinterpret_cast<unsigned char*>(bytes(without)) + field.record + field.exists->offset, 0);
     }
     std::string value(field.width, place == Place::full ? mark : 'a');
-    if (place == Place::first)
+    if (place == Place::first) {
         value.front() = mark;
-    else if (place == Place::middle)
+    } else if (place == Place::middle) {
         value[field.width / 2] = mark;
-    else if (place == Place::last)
+    } else if (place == Place::last) {
         value.back() = mark;
+    }
     std::vector<GCfg*> patched;
-    if (change != Change::changed && change != Change::added)
+    if (change != Change::changed && change != Change::added) {
         patched.push_back(orig.get());
-    if (change != Change::renamed && change != Change::removed)
+    }
+    if (change != Change::renamed && change != Change::removed) {
         patched.push_back(cfg.get());
-    for (GCfg* const configuration : patched)
+    }
+    for (GCfg* const configuration : patched) {
         std::memcpy(bytes(*configuration) + field.offset, value.data(), field.width);
+    }
     ASSERT_EQ(initiate_diff(orig.get(), cfg.get(), 0, 0), 0);
     marks = marks_in_session();
-    for (GCfg* const configuration : patched)
-        for (std::size_t i = 0; i < field.width; ++i)
-            if (value[i] == mark)
+    for (GCfg* const configuration : patched) {
+        for (std::size_t i = 0; i < field.width; ++i) {
+            if (value[i] == mark) {
                 marks.push_back(bytes(*configuration) + field.offset + i);
+            }
+        }
+    }
 }
 
 /// The records that refer to others.
@@ -311,8 +327,9 @@ bool is_no_text(const Field& field)
 std::set<std::string> full_names(const std::vector<TextField>& fields)
 {
     std::set<std::string> names;
-    for (const TextField& field : fields)
+    for (const TextField& field : fields) {
         names.insert(field.name);
+    }
     return names;
 }
 

@@ -23,8 +23,9 @@ void fail_each(const Memory& test, const Arguments& arguments, const std::string
     for (; number < most; number += 1 + number / 16) { // all of the first ones, then fewer
         const Outcome outcome = test.run(
             arguments, with_other_library("TEST_FAILING_ALLOCATION=" + std::to_string(number), PONDIFF_FAILING_MEMORY));
-        if (outcome.out == complete.out && outcome.status == complete.status)
+        if (outcome.out == complete.out && outcome.status == complete.status) {
             break;
+        }
         ASSERT_EQ(outcome.out, "") << number;
         ASSERT_EQ(outcome.err, message) << number;
         ASSERT_EQ(outcome.status, 2) << number;

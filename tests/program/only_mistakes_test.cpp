@@ -53,16 +53,18 @@ TEST_F(OnlyMistakes, UnknownAreaListsThoseThatThereAre)
 
 TEST_F(OnlyMistakes, UnknownKindOfProfileListsThoseThatThereAre)
 {
-    for (const char* const area : {"profile", "profile:", "profile::3", "profile:wan", "profile:wan:3"})
+    for (const char* const area : {"profile", "profile:", "profile::3", "profile:wan", "profile:wan:3"}) {
         expect_mistake(area, "no such kind of profile; " + all_kinds);
+    }
     expect_mistake("profile:alloc", "no such kind of profile; " + all_kinds);
     expect_mistake("profile:dhcp_ra:0", "no such kind of profile (did you mean \"dhcp-ra\"?); " + all_kinds);
 }
 
 TEST_F(OnlyMistakes, UnknownBlockListsThoseThatThereAre)
 {
-    for (const char* const area : {"block", "block:", "block:wan", "block:olt:"})
+    for (const char* const area : {"block", "block:", "block:wan", "block:olt:"}) {
         EXPECT_THAT(of(area).err, AllOf(HasSubstr("no such block"), HasSubstr(all_blocks)));
+    }
     expect_mistake("block:wan", std::string("no such block; ") + all_blocks);
     expect_mistake("block:source-guard", std::string("no such block (did you mean \"source_guard\"?); ") + all_blocks);
 }
@@ -71,14 +73,16 @@ TEST_F(OnlyMistakes, OntBeyondTheArray)
 {
     for (const char* const area :
          {"ont", "ont:", "ont:532", "ont:-1", "ont:01", "ont:x", "ont:99999999999999999999", "ont:8/20", "ont:0/64",
-          "ont:9/0", "ont:600/0", "ont:/", "ont:1/", "ont:/1", "ont:1/6/0", "ont:1:6"})
+          "ont:9/0", "ont:600/0", "ont:/", "ont:1/", "ont:/1", "ont:1/6/0", "ont:1:6"}) {
         expect_mistake(area, "no such ONT; there are 0 to 531, also written 0/0 to 8/19");
+    }
 }
 
 TEST_F(OnlyMistakes, PortBeyondTheArray)
 {
-    for (const char* const area : {"port", "port:", "port:8", "port:-1", "port:1/6", "port:x"})
+    for (const char* const area : {"port", "port:", "port:8", "port:-1", "port:1/6", "port:x"}) {
         expect_mistake(area, "no such GPON port; there are 0 to 7");
+    }
 }
 
 TEST_F(OnlyMistakes, ProfileBeyondTheArray)
@@ -86,8 +90,9 @@ TEST_F(OnlyMistakes, ProfileBeyondTheArray)
     expect_mistake("profile:vlan:32", "no such VLAN profile; there are 0 to 31");
     expect_mistake("profile:shaping:128", "no such shaping profile; there are 0 to 127");
     for (const char* const area :
-         {"profile:template:", "profile:template:-1", "profile:template:x", "profile:template:1:2"})
+         {"profile:template:", "profile:template:-1", "profile:template:x", "profile:template:1:2"}) {
         expect_mistake(area, "no such template; there are 0 to 31");
+    }
 }
 
 TEST_F(OnlyMistakes, MistakeIsReportedBeforeAnyFileIsRead)

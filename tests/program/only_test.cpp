@@ -301,11 +301,13 @@ TEST_F(Only, Blocks)
                  "user \"noc\" privilege \"5\"\n"},
         {"route", "ip route prefix 198.51.100.0 mask \"24\" gateway \"192.0.2.1\"\n"},
     };
-    for (const auto& [name, commands] : blocks)
+    for (const auto& [name, commands] : blocks) {
         expect_script("block:" + name, "configure terminal\n" + commands + "exit\ncommit\n");
+    }
     write("orig.json", after);
-    for (const auto& [name, unused] : blocks)
+    for (const auto& [name, unused] : blocks) {
         expect_nothing_to_do("block:" + name, "configure terminal\nexit\ncommit\n");
+    }
 }
 
 TEST_F(Only, Alarms)
@@ -442,8 +444,9 @@ TEST_F(Only, HelpListsAreasKindsAndBlocks)
     const std::string help = run({"diff", "--help"}).out;
     for (const char* const area :
          {"system", "pon", "ont:INDEX", "port:N", "profiles-olt", "profiles-ont", "profile:KIND", "profile:KIND:ID",
-          "block:NAME", "alarm", "routes", "terminal-vlans"})
+          "block:NAME", "alarm", "routes", "terminal-vlans"}) {
         EXPECT_THAT(help, HasSubstr(std::string("\n  ") + area + "  ")) << help;
+    }
     std::string listed = help.substr(help.find("\nKinds of profiles:\n"));
     listed.resize(listed.find("\n\nBlocks of settings:\n"));
     for (const pondiff::tool::ProfileKind& kind : pondiff::tool::profile_kinds) {

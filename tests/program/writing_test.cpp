@@ -148,8 +148,9 @@ TEST_F(Writing, FileThatCannotBeMadeIsNamedWithTheReason)
 
 TEST_F(Writing, FileThatMayNotBeWrittenIsLeftAlone)
 {
-    if (!reachable_by_others())
+    if (!reachable_by_others()) {
         GTEST_SKIP() << "the program is out of the reach of others";
+    }
     const Surroundings surroundings = as_somebody_else();
     std::filesystem::permissions(path("."), std::filesystem::perms(0777));
     write("script", "old\n");
@@ -210,8 +211,9 @@ TEST_F(Writing, FileIsOldUntilTheNewContentIsOnTheDisk)
 TEST_F(Writing, ProgramThatIsKilledLeavesNoTemporaryFile)
 {
     const int unnamed = open(path(".").c_str(), O_TMPFILE | O_WRONLY | O_CLOEXEC, 0600);
-    if (unnamed < 0)
+    if (unnamed < 0) {
         GTEST_SKIP() << "the file system has no files without a name";
+    }
     close(unnamed);
     for (const char* const file : {"new.bin", "cfg.json"}) {
         const Outcome outcome =
@@ -240,8 +242,9 @@ TEST_F(Writing, FileSystemWithoutFilesWithoutANameServesToo)
 TEST_F(Writing, DeviceIsWrittenTo)
 {
     // Never as the super-user, whose program could take the device's place.
-    if (!reachable_by_others())
+    if (!reachable_by_others()) {
         GTEST_SKIP() << "the program is out of the reach of others";
+    }
     std::filesystem::permissions(path("."), std::filesystem::perms(0777));
     std::filesystem::create_symlink("/dev/full", path("full"));
     expect_error(write_script_to("/dev/full", as_somebody_else()), "pondiff: /dev/full: No space left on device\n");
@@ -269,8 +272,9 @@ TEST_F(Writing, StandardOutputThatIsFull)
     Surroundings surroundings;
     surroundings.output_file = "/dev/full";
     for (const Arguments& arguments : {Arguments{"diff", "orig.json", "cfg.json"}, Arguments{"show", "cfg.json"},
-                                       Arguments{"pack", "cfg.json", "-o", "-"}, Arguments{"--help"}})
+                                       Arguments{"pack", "cfg.json", "-o", "-"}, Arguments{"--help"}}) {
         expect_error(run(arguments, surroundings), "pondiff: standard output: No space left on device\n");
+    }
 }
 
 TEST_F(Writing, StandardOutputThatNobodyReads)
@@ -278,8 +282,9 @@ TEST_F(Writing, StandardOutputThatNobodyReads)
     Surroundings surroundings;
     surroundings.reader_gone = true;
     for (const Arguments& arguments : {Arguments{"diff", "orig.json", "cfg.json"}, Arguments{"show", "cfg.json"},
-                                       Arguments{"pack", "cfg.json", "-o", "-"}, Arguments{"diff", "--help"}})
+                                       Arguments{"pack", "cfg.json", "-o", "-"}, Arguments{"diff", "--help"}}) {
         expect_error(run(arguments, surroundings), "pondiff: standard output: Broken pipe\n");
+    }
 }
 
 TEST_F(Writing, StandardOutputThatIsClosed)

@@ -12,8 +12,9 @@ void (*observe)();
 
 bool granted()
 {
-    if (observe)
+    if (observe) {
         observe();
+    }
     ++asked;
     return asked < first_failure || asked > last_failure;
 }

@@ -7,9 +7,11 @@
 std::string joined(const Elements& elements)
 {
     std::string text;
-    for (const std::string& element : elements)
-        if (!element.empty() && element[0] != '\n')
+    for (const std::string& element : elements) {
+        if (!element.empty() && element[0] != '\n') {
             text += element + '\n';
+        }
+    }
     return text;
 }
 

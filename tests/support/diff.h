@@ -34,8 +34,9 @@ void put(unsigned char (&field)[N], std::initializer_list<int> bytes)
 {
     ASSERT_EQ(bytes.size(), N);
     std::size_t i = 0;
-    for (const int byte : bytes)
+    for (const int byte : bytes) {
         field[i++] = static_cast<unsigned char>(byte);
+    }
 }
 
 /// The lines that an operation makes of the elements of its list: each that is neither empty nor begins with a line

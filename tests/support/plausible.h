@@ -18,12 +18,13 @@ inline std::unique_ptr<GCfg> plausible(int number)
     auto* const bytes = reinterpret_cast<unsigned char*>(configuration.get());
     int serial = 0;
     for_each_leaf(gcfg_record, [&](const Leaf& leaf) {
-        if (leaf.field.name == "exist" || leaf.field.name == "exists")
+        if (leaf.field.name == "exist" || leaf.field.name == "exists") {
             set_number(leaf.field, bytes + leaf.offset, 1);
-        else if (is_number(leaf.field.form))
+        } else if (is_number(leaf.field.form)) {
             set_number(leaf.field, bytes + leaf.offset, number);
-        else if (leaf.field.name == "name" && leaf.field.form == Form::text)
+        } else if (leaf.field.name == "name" && leaf.field.form == Form::text) {
             std::snprintf(reinterpret_cast<char*>(bytes + leaf.offset), leaf.field.width, "n%d", ++serial);
+        }
     });
     return configuration;
 }

@@ -95,8 +95,9 @@ class ProgramTest : public ::testing::Test {
     ProgramTest()
     {
         std::string name = (std::filesystem::temp_directory_path() / "program-test-XXXXXX").string();
-        if (mkdtemp(name.data()) == nullptr)
+        if (mkdtemp(name.data()) == nullptr) {
             std::abort();
+        }
         folder_ = name;
     }
     ~ProgramTest() override { std::filesystem::remove_all(folder_); }
@@ -125,8 +126,9 @@ class ProgramTest : public ::testing::Test {
     std::vector<std::string> names() const
     {
         std::vector<std::string> found;
-        for (const auto& entry : std::filesystem::directory_iterator(folder_))
+        for (const auto& entry : std::filesystem::directory_iterator(folder_)) {
             found.push_back(entry.path().filename().string());
+        }
         std::sort(found.begin(), found.end());
         return found;
     }
@@ -137,8 +139,9 @@ class ProgramTest : public ::testing::Test {
         std::FILE* const out = std::tmpfile();
         std::FILE* const err = std::tmpfile();
         int input[2];
-        if (out == nullptr || err == nullptr || pipe2(input, O_CLOEXEC) != 0)
+        if (out == nullptr || err == nullptr || pipe2(input, O_CLOEXEC) != 0) {
             std::abort();
+        }
         const pid_t child = fork();
         if (child == 0) {
             dup2(input[0], STDIN_FILENO);
@@ -159,8 +162,9 @@ class ProgramTest : public ::testing::Test {
     {
         if (surroundings.reader_gone) {
             int ends[2];
-            if (pipe(ends) != 0)
+            if (pipe(ends) != 0) {
                 std::abort();
+            }
             close(ends[0]);
             out = ends[1];
         } else if (!surroundings.output_file.empty()) {
@@ -168,35 +172,43 @@ class ProgramTest : public ::testing::Test {
         }
         const rlimit limit{surroundings.largest_file, RLIM_INFINITY};
         if (out < 0 || dup2(out, STDOUT_FILENO) < 0 || dup2(err, STDERR_FILENO) < 0 || chdir(folder_.c_str()) != 0 ||
-            setrlimit(RLIMIT_FSIZE, &limit) != 0)
+            setrlimit(RLIMIT_FSIZE, &limit) != 0) {
             std::abort();
+        }
         if (surroundings.unprivileged && geteuid() == 0 &&
             (setgroups(surroundings.groups.size(), surroundings.groups.data()) != 0 || setgid(nobody) != 0 ||
-             setuid(nobody) != 0))
+             setuid(nobody) != 0)) {
             std::abort();
-        for (const auto& [number, file] : surroundings.descriptors)
-            if (dup2(file, number) < 0 || fcntl(number, F_SETFD, 0) != 0) // it may have the number already
+        }
+        for (const auto& [number, file] : surroundings.descriptors) {
+            if (dup2(file, number) < 0 || fcntl(number, F_SETFD, 0) != 0) { // it may have the number already
                 std::abort();
-        for (const int descriptor : surroundings.closed)
+            }
+        }
+        for (const int descriptor : surroundings.closed) {
             close(descriptor);
+        }
         umask(surroundings.mask);
         Arguments words{PONDIFF_EMULATOR};
         const bool emulated = !words.empty();
         for (const std::string& variable : surroundings.environment) {
             const std::size_t equals = variable.find('=');
             const std::string name = variable.substr(0, equals);
-            if (emulated && name == "LD_PRELOAD") // the library is one for the program
+            if (emulated && name == "LD_PRELOAD") { // the library is one for the program
                 words.insert(words.end(), {"-E", variable});
-            else
+            } else {
                 setenv(name.c_str(), variable.substr(equals + 1).c_str(), 1);
+            }
         }
-        if (emulated)
+        if (emulated) {
             words.insert(words.end(), {"-0", "pondiff"});
+        }
         words.emplace_back(emulated ? PONDIFF_PROGRAM : "pondiff");
         words.insert(words.end(), arguments.begin(), arguments.end());
         std::vector<char*> argv;
-        for (std::string& word : words)
+        for (std::string& word : words) {
             argv.push_back(word.data());
+        }
         argv.push_back(nullptr);
         execvp(emulated ? argv.front() : PONDIFF_PROGRAM, argv.data());
         std::abort();
@@ -208,8 +220,9 @@ class ProgramTest : public ::testing::Test {
         void (*const before)(int) = std::signal(SIGPIPE, SIG_IGN);
         for (std::size_t done = 0; done < input.size();) {
             const ssize_t count = ::write(descriptor, input.data() + done, input.size() - done);
-            if (count <= 0)
+            if (count <= 0) {
                 break;
+            }
             done += static_cast<std::size_t>(count);
         }
         close(descriptor);
@@ -220,8 +233,9 @@ class ProgramTest : public ::testing::Test {
     {
         std::string content;
         std::rewind(file);
-        for (int c = std::getc(file); c != EOF; c = std::getc(file))
+        for (int c = std::getc(file); c != EOF; c = std::getc(file)) {
             content += static_cast<char>(c);
+        }
         std::fclose(file);
         return content;
     }

@@ -20,8 +20,9 @@ void keep(Object (&array)[N], int objects)
 template <class Object, std::size_t N>
 void keep_existing(Object (&array)[N], int objects)
 {
-    for (Object& object : array)
+    for (Object& object : array) {
         object.exist = 1;
+    }
     keep(array, objects);
 }
 
@@ -196,12 +197,14 @@ void fill(GCfg& configuration, int objects)
     keep(services.routing.route, objects);
     GPonCfg& pon = configuration.pon;
     keep_existing(pon.ont, objects);
-    for (GVlanTagEx& vlan : pon.network.terminal_vlan)
+    for (GVlanTagEx& vlan : pon.network.terminal_vlan) {
         vlan.exists = 1;
+    }
     keep(pon.network.terminal_vlan, objects);
 #define KEEP_EXISTING(part, array, ...) keep_existing(pon.part.array, objects);
     PON_PROFILE_KINDS(KEEP_EXISTING)
 #undef KEEP_EXISTING
-    for (GPonProfileOltAddressTable& table : pon.profiles_olt.address_table)
+    for (GPonProfileOltAddressTable& table : pon.profiles_olt.address_table) {
         keep(table.svlan_config, objects);
+    }
 }

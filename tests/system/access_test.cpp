@@ -94,8 +94,9 @@ TEST(Http, PrintAllShowsEveryEntry)
     http.all = 1;
     std::string expected = "configure terminal\n";
     for (const char* index :
-         {" 0", " 1", " 2", " 3", " 4", " 5", " 6", " 7", " 8", " 9", "10", "11", "12", "13", "14", "15"})
+         {" 0", " 1", " 2", " 3", " 4", " 5", " 6", " 7", " 8", " 9", "10", "11", "12", "13", "14", "15"}) {
         expected += "http allow ip   " + std::string(index) + " mask \"0\"\n";
+    }
     EXPECT_EQ(http.script(), expected);
     EXPECT_EQ(http.key[0], 15);
 }
@@ -124,8 +125,9 @@ TEST(Https, PrintAllShowsEveryEntry)
     https.all = 1;
     std::string expected = "configure terminal\n";
     for (const char* index :
-         {" 0", " 1", " 2", " 3", " 4", " 5", " 6", " 7", " 8", " 9", "10", "11", "12", "13", "14", "15"})
+         {" 0", " 1", " 2", " 3", " 4", " 5", " 6", " 7", " 8", " 9", "10", "11", "12", "13", "14", "15"}) {
         expected += "https allow ip   " + std::string(index) + " mask \"0\"\n";
+    }
     EXPECT_EQ(https.script(), expected);
 }
 
@@ -190,8 +192,9 @@ TEST(Telnet, PrintAllShowsSwitchesAndEveryEntry)
                            "no ip telnet access-control\n"
                            "ip telnet allow ip 0.0.0.0 mask \"0\"\n"
                            "ip telnet allow ip 10.1.0.0 mask \"16\"\n";
-    for (int i = 2; i < 16; ++i)
+    for (int i = 2; i < 16; ++i) {
         expected += "ip telnet allow ip 0.0.0.0 mask \"0\"\n";
+    }
     EXPECT_EQ(telnet.script(), expected);
     EXPECT_EQ(telnet.key[0], 15);
 }
@@ -240,8 +243,9 @@ TEST(Ssh, PrintAllShowsSwitchesAndEveryEntry)
     std::string expected = "configure terminal\n"
                            "ip ssh enable\n"
                            "ip ssh access-control\n";
-    for (int i = 0; i < 15; ++i)
+    for (int i = 0; i < 15; ++i) {
         expected += "ip ssh allow ip 0.0.0.0 mask \"0\"\n";
+    }
     EXPECT_EQ(ssh.script(), expected + "ip ssh allow ip 10.1.0.0 mask \"16\"\n");
 }
 

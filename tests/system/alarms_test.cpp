@@ -260,11 +260,12 @@ TEST(Alarms, ForcedByTheCommonSettingsShowsFourCommandsForEachType)
     session.settle();
     session.open();
     std::string expected = "configure terminal\n";
-    for (int i = 0; i < 45; ++i)
+    for (int i = 0; i < 45; ++i) {
         expected += "alarm dummy severity \"indeterminate\"\n"
                     "alarm dummy in false\n"
                     "alarm dummy out false\n"
                     "alarm dummy ttl \"0\"\n";
+    }
     expected += "alarm ont-storm-detected severity \"indeterminate\"\n"
                 "alarm ont-storm-detected in false\n"
                 "alarm ont-storm-detected out false\n"

@@ -26,8 +26,9 @@ class Routing : public testing::Test {
 
 TEST_F(Routing, ChangedRoutesInSlotOrder)
 {
-    for (const int slot : {0, 1, 511})
+    for (const int slot : {0, 1, 511}) {
         fill_route(diff.after.route[slot], slot % 256);
+    }
     diff.before.route[1] = diff.after.route[1];
     EXPECT_EQ(script(), "configure terminal\n"
                         "ip route prefix 10.0.0.0 mask \"16\" gateway \"192.0.2.0\"\n"

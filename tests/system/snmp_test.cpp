@@ -172,13 +172,16 @@ TEST(Snmp, EqualRecordUnderPrintAllShowsAllOfIt)
                            "ip snmp contact \"\"\n"
                            "ip snmp ont-sn-format \"pretty\"\n"
                            "ip snmp engineID \"00000000000000000000000000\"\n";
-    for (int i = 0; i < 16; ++i)
+    for (int i = 0; i < 16; ++i) {
         expected += "ip snmp allow ip 0.0.0.0 mask \"0\"\n";
-    for (int i = 0; i < 16; ++i)
+    }
+    for (int i = 0; i < 16; ++i) {
         expected += "ip snmp traps 0.0.0.0 type v1\n";
+    }
     for (const char* index :
-         {" 0", " 1", " 2", " 3", " 4", " 5", " 6", " 7", " 8", " 9", "10", "11", "12", "13", "14", "15", "16", "17"})
+         {" 0", " 1", " 2", " 3", " 4", " 5", " 6", " 7", " 8", " 9", "10", "11", "12", "13", "14", "15", "16", "17"}) {
         expected += "ip snmp alias name \"\"\nno ip snmp alias name   " + std::string(index) + " up-down-trap\n";
+    }
     EXPECT_EQ(snmp.script(), expected);
     EXPECT_EQ(snmp.key[0], 17);
     EXPECT_EQ(snmp.key[1], 0);

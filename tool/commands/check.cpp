@@ -54,8 +54,9 @@ ExitStatus run(Arguments& arguments)
 {
     const std::unique_ptr<GCfg> configuration = arguments.input.configuration(arguments.configuration);
     const std::vector<Finding> findings = check(*configuration);
-    if (findings.empty())
+    if (findings.empty()) {
         return ExitStatus::success;
+    }
     const std::string name = name_of_input(arguments.configuration);
     std::string text;
     for (const Finding& finding : findings) {

@@ -118,8 +118,9 @@ bool warn_of_findings(const Area& area, const GCfg& orig, const GCfg& cfg, const
 {
     bool any = false;
     for (const Finding& finding : check_change(orig, cfg, arguments.all)) {
-        if (finding.unsafe || !overlaps(area.records, finding.offset, finding.size))
+        if (finding.unsafe || !overlaps(area.records, finding.offset, finding.size)) {
             continue;
+        }
         report_warning(fmt::format("{}: {}: {}", name_of_input(arguments.change.wanted), finding.path, finding.text));
         any = true;
     }

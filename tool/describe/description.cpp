@@ -78,7 +78,7 @@ std::size_t count_differing_fields(const GCfg& a, const GCfg& b, const Ranges& r
         [&](std::size_t offset, std::size_t size) {
             return overlaps(ranges, offset, size) && std::memcmp(left + offset, right + offset, size) != 0;
         },
-        [&count](const Leaf&) { count++; });
+        [&count](const Leaf&) { ++count; });
     return count;
 }
 

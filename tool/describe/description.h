@@ -156,7 +156,7 @@ void walk(const Record& record, std::size_t offset, Path& path, Enter& enter, Vi
         if (!enter(start, std::size_t{field.size})) {
             continue;
         }
-        for (std::size_t i = 0; i < field.count; i++) {
+        for (std::size_t i = 0; i < field.count; ++i) {
             const std::size_t element = start + i * field.width;
             if (field.array && !enter(element, std::size_t{field.width})) {
                 continue;

@@ -30,9 +30,9 @@
 namespace pondiff::tool {
 
 /// No array is longer.
-constexpr std::size_t MAX_ELEMENTS = 4096;
+constexpr std::size_t most_elements = 4096;
 /// No record has more.
-constexpr std::size_t MAX_FIELDS = 64;
+constexpr std::size_t most_fields = 64;
 
 template <class Type>
 inline constexpr bool is_integer =
@@ -57,7 +57,7 @@ constexpr Field single(Member<Struct, Type> member, Form form, const Syntax& syn
 template <class Struct, class Type, std::size_t N>
 constexpr Field array(Member<Struct, Type[N]> member, Form form, const Syntax& syntax, const char* plural)
 {
-    static_assert(N <= MAX_ELEMENTS);
+    static_assert(N <= most_elements);
     Field field = single(Member<Struct, Type>{member.record, member.name, member.offset}, form, syntax);
     field.size = sizeof(Type[N]);
     field.count = N;
@@ -416,7 +416,7 @@ constexpr RecordOf<Struct>::RecordOf(const char* struct_name, const Field (&tabl
              first_member(table, [](const Field& field) { return field.syntax.kind == Syntax::Kind::key; }),
              first_member(table, [](const Field& field) { return field.syntax.is_existence; })}
 {
-    static_assert(N <= MAX_FIELDS);
+    static_assert(N <= most_fields);
     static_assert(alignof(Struct) == 1, "packed");
     static_assert(std::is_trivial_v<Struct> && std::is_standard_layout_v<Struct>, "the same in C");
 }

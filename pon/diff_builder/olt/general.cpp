@@ -10,17 +10,20 @@ template <class Redefinition>
 void emit_redefinition(const Redefinition& lhs, const Redefinition& rhs, const char* profile, const char* format,
                        const Where& where)
 {
-    if (!profile)
+    if (!profile) {
         return;
-    if (forced(changed_or_profile_common) || lhs.vid != rhs.vid || lhs.profile != rhs.profile)
+    }
+    if (forced(changed_or_profile_common) || lhs.vid != rhs.vid || lhs.profile != rhs.profile) {
         emit(where, format, profile, rhs.vid);
+    }
 }
 
 /// There is no command that switches the mode off.
 const char* reduced_latency_command(const GPonOltGeneralCfg& general)
 {
-    if (general.dba_reduced_latency == 0)
+    if (general.dba_reduced_latency == 0) {
         return "";
+    }
     return general.dba_excess_allocations != 0 ? "gpon olt dba-reduced-latency allocation-mode fair-allocations"
                                                : "gpon olt dba-reduced-latency allocation-mode most-demanding";
 }
@@ -50,15 +53,17 @@ bool getdiff_GPonOltGeneralCfg(GPonOltGeneralCfg* lhs, GPonOltGeneralCfg* rhs, i
         on_off(FIELD(GPonOltGeneralCfg, alarm_ont_battery_power_enabled), "", "alarm ont-battery-power status disable"),
         on_off(FIELD(GPonOltGeneralCfg, alarm_ont_battery_low_enabled), "", "alarm ont-battery-low status disable"),
     };
-    if (nothing_to_emit(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs)) {
         return false;
+    }
     const Where where{View::configure, key, out};
     emit_changed(limits, changed_or_common, lhs, rhs, where);
     emit_changed(relay_profiles, changed_or_profile_common, lhs, rhs, where);
     emit_changed(thresholds, changed_or_common, lhs, rhs, where);
     // A change of the allocation mode alone emits nothing.
-    if (forced(changed_or_common) || lhs->dba_reduced_latency != rhs->dba_reduced_latency)
+    if (forced(changed_or_common) || lhs->dba_reduced_latency != rhs->dba_reduced_latency) {
         emit(where, reduced_latency_command(*rhs));
+    }
     emit_changed(battery_alarms, changed_or_common, lhs, rhs, where);
 
     descend(changed_or_common, getdiff_GPonOltGeneralActivationCfg, lhs->activation, rhs->activation, key, out);
@@ -92,8 +97,9 @@ bool getdiff_GPonOltGeneralActivationCfg(GPonOltGeneralActivationCfg* lhs, GPonO
         on_off(FIELD(GPonOltGeneralActivationCfg, alt_activation_mode), "gpon olt password-in-trap",
                "no gpon olt password-in-trap"),
     };
-    if (nothing_to_emit(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs)) {
         return false;
+    }
     emit_changed(commands, changed_or_common, lhs, rhs, {View::configure, key, out});
     return false;
 }
@@ -108,8 +114,9 @@ bool getdiff_GPonOltGeneralRedundancyCfg(GPonOltGeneralRedundancyCfg* /*lhs*/, G
 /// Neither it nor its parts have commands, but walking them leaves the last index in the key.
 bool getdiff_GPonOltGeneralL3Cfg(GPonOltGeneralL3Cfg* lhs, GPonOltGeneralL3Cfg* rhs, int* key, List<char>& out)
 {
-    if (nothing_to_emit(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs)) {
         return false;
+    }
     descend_each(changed_or_all, getdiff_GPonOltGeneralL3DHCPCfg, lhs->dhcp, rhs->dhcp, of_object, key, out);
     descend(changed_or_all, getdiff_GPonOltGeneralL3PPPoECfg, lhs->pppoe, rhs->pppoe, key, out);
     return false;
@@ -129,8 +136,9 @@ bool getdiff_GPonOltGeneralL3PPPoECfg(GPonOltGeneralL3PPPoECfg* /*lhs*/, GPonOlt
 
 bool getdiff_GPonOltDhcpraCfgByVid(GPonOltDhcpraCfgByVid* lhs, GPonOltDhcpraCfgByVid* rhs, int* key, List<char>& out)
 {
-    if (nothing_to_emit(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs)) {
         return false;
+    }
     emit_redefinition(*lhs, *rhs, getDhcpRaName(rhs->profile), "gpon olt profile dhcpra %s vid %d",
                       {View::configure, key, out});
     return false;
@@ -139,8 +147,9 @@ bool getdiff_GPonOltDhcpraCfgByVid(GPonOltDhcpraCfgByVid* lhs, GPonOltDhcpraCfgB
 bool getdiff_GPonOltDhcpv6raCfgByVid(GPonOltDhcpv6raCfgByVid* lhs, GPonOltDhcpv6raCfgByVid* rhs, int* key,
                                      List<char>& out)
 {
-    if (nothing_to_emit(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs)) {
         return false;
+    }
     emit_redefinition(*lhs, *rhs, getDhcpv6RaName(rhs->profile), "gpon olt profile dhcpv6ra %s vid %d",
                       {View::configure, key, out});
     return false;
@@ -150,13 +159,15 @@ bool getdiff_GPonOltDhcpv6raCfgByVid(GPonOltDhcpv6raCfgByVid* lhs, GPonOltDhcpv6
 bool getdiff_GPonOltGeneralDBAShortCycleCfg(GPonOltGeneralDBAShortCycle* lhs, GPonOltGeneralDBAShortCycle* rhs,
                                             int* key, List<char>& out)
 {
-    if (nothing_to_emit(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs)) {
         return false;
+    }
     const Where where{View::configure, key, out};
     for (int port = 0; port < GCFG_GPON_PORTS; port += 2) {
         const bool there = navigate(where);
-        if (!there || (!forced(changed_or_common) && lhs->gpon_port[port] == rhs->gpon_port[port]))
+        if (!there || (!forced(changed_or_common) && lhs->gpon_port[port] == rhs->gpon_port[port])) {
             continue;
+        }
         command(where,
                 rhs->gpon_port[port] != 0 ? "gpon olt dba-short-cycle gpon-port %d-%d"
                                           : "no gpon olt dba-short-cycle gpon-port %d-%d",
@@ -172,11 +183,13 @@ bool getdiff_GPonOltGeneralDatapathCfg(GPonOltGeneralDatapathCfg* lhs, GPonOltGe
         number(FIELD(GPonOltGeneralDatapathCfg, broadcast_gem_port), "gpon olt broadcast-gem-port \"%s\""),
         number(FIELD(GPonOltGeneralDatapathCfg, multicast_gem_port), "gpon olt multicast-gem-port \"%s\""),
     };
-    if (nothing_to_emit(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs)) {
         return false;
+    }
     const Where where{View::configure, key, out};
-    if (forced(changed_or_common) || lhs->model != rhs->model)
+    if (forced(changed_or_common) || lhs->model != rhs->model) {
         emit(where, "gpon olt model \"%d\"", rhs->model + 1);
+    }
     emit_changed(gem_ports, changed_or_common, lhs, rhs, where);
     return false;
 }
@@ -187,8 +200,9 @@ bool getdiff_GPonOntEncryption(GPonOntEncryption* lhs, GPonOntEncryption* rhs, i
         on_off(FIELD(GPonOntEncryption, enable), "gpon olt encryption", "no gpon olt encryption"),
         number(FIELD(GPonOntEncryption, key_update_interval), "gpon olt encryption key-update \"%s\""),
     };
-    if (nothing_to_emit(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs)) {
         return false;
+    }
     emit_changed(commands, changed_or_common, lhs, rhs, {View::configure, key, out});
     return false;
 }

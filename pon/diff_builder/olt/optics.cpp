@@ -59,8 +59,9 @@ bool getdiff_GPonOltGeneralOpticsCfg(GPonOltGeneralOpticsCfg* lhs, GPonOltGenera
         number(FIELD(Optics, preamble_delimiter_byte3), "optics preamble delimiter byte3 \"%s\""),
         enumeration(FIELD(Optics, voltage_if_mode), "GOpticsVoltageInterface_enum", "optics voltage-if-mode \"%s\""),
     };
-    if (nothing_to_emit(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs)) {
         return false;
+    }
     emit_changed(commands, changed_or_all, lhs, rhs, {View::gpon_port, key, out});
     return false;
 }

@@ -4,8 +4,9 @@ using namespace pondiff;
 
 bool getdiff_GPonOltCfg(GPonOltCfg* lhs, GPonOltCfg* rhs, int* key, List<char>& out)
 {
-    if (nothing_to_emit(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs)) {
         return false;
+    }
     descend(changed_or_all, getdiff_GPonOltGeneralCfg, lhs->general, rhs->general, key, out);
     descend_each(changed_or_all, getdiff_GPonOltChannelCfg, lhs->channel, rhs->channel, of_object, key, out);
     return false;
@@ -33,8 +34,9 @@ bool getdiff_GPonOltChannelCfg(GPonOltChannelCfg* lhs, GPonOltChannelCfg* rhs, i
     static constexpr Row<GPonOltChannelCfg> forward_nowhere =
         whenever(FIELD(GPonOltChannelCfg, unknown_multicast_forward_gem_port), "");
 
-    if (nothing_to_emit(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs)) {
         return false;
+    }
     const Where where{View::gpon_port, key, out};
     emit_changed(settings, changed_or_all, lhs, rhs, where);
     emit_changed(rhs->onus_range != 0 ? range : no_range, changed_or_all, lhs, rhs, where);

@@ -14,9 +14,10 @@ void emit_service_profiles(const GPonOntCfg* lhs, const GPonOntCfg* rhs, int* ke
     };
     for (int service = 0; service < GCFG_SERVICES; ++service) {
         const Value shown = service;
-        for (const Row<GPonOntCfg>& profile : profiles)
+        for (const Row<GPonOntCfg>& profile : profiles) {
             emit_changed(element(profile, static_cast<std::size_t>(service)), changed_or_all, lhs, rhs,
                          {View::ont, key, out, &shown});
+        }
     }
 }
 
@@ -82,19 +83,22 @@ const char* power_priority_word(int value)
 /// The authentication method and the profile in the management system have no commands.
 bool getdiff_GPonOntCfg(GPonOntCfg* lhs, GPonOntCfg* rhs, int* key, List<char>& out)
 {
-    if (nothing_to_emit(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs)) {
         return false;
+    }
     if (lhs->exist != rhs->exist) {
         if (rhs->exist == 0) {
-            if (navigate({View::configure, key, out}))
+            if (navigate({View::configure, key, out})) {
                 append(out, "no interface ont %d/%d", key[of_object] / GCFG_ONTS_PER_PORT,
                        key[of_object] % GCFG_ONTS_PER_PORT);
+            }
             return false;
         }
         navigate({View::ont, key, out}); // creates it
     }
-    if (rhs->exist != 0)
+    if (rhs->exist != 0) {
         emit_settings(lhs, rhs, key, out);
+    }
     return false;
 }
 
@@ -107,8 +111,9 @@ unsigned char getdiff_GPonOntCustomCrossConnect(GPonOntCustomCrossConnect* lhs, 
         number_or_unused(FIELD(GPonOntCustomCrossConnect, svid), "service $ID1 custom svid \"%s\""),
         number_or_unused(FIELD(GPonOntCustomCrossConnect, cos), "service $ID1 custom cos \"%s\""),
     };
-    if (nothing_to_emit(lhs, rhs) || rhs->exist == 0)
+    if (nothing_to_emit(lhs, rhs) || rhs->exist == 0) {
         return 0;
+    }
     emit_changed(commands, changed_or_all, lhs, rhs, {View::ont, key, out});
     return 0;
 }
@@ -117,8 +122,9 @@ bool getdiff_GPonOntPort(GPonOntPort* lhs, GPonOntPort* rhs, int* key, List<char
 {
     static constexpr Row<GPonOntPort> shutdown =
         on_off(FIELD(GPonOntPort, shutdown), "port $ID1 shutdown", "no port $ID1 shutdown");
-    if (nothing_to_emit(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs)) {
         return false;
+    }
     emit_changed(shutdown, changed_or_all, lhs, rhs, {View::ont, key, out});
     descend(changed_or_all, getdiff_GPonUniPoE, lhs->poe, rhs->poe, key, out);
     return false;
@@ -131,8 +137,9 @@ bool getdiff_GPonUniPoE(GPonUniPoE* lhs, GPonUniPoE* rhs, int* key, List<char>& 
         number(FIELD(GPonUniPoE, pse_class_control), "port $ID1 poe pse-class-control \"%d\""),
         word(FIELD(GPonUniPoE, power_priority), power_priority_word, "port $ID1 poe power-priority \"%s\""),
     };
-    if (nothing_to_emit(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs)) {
         return false;
+    }
     emit_changed(commands, changed_or_all, lhs, rhs, {View::ont, key, out});
     return false;
 }

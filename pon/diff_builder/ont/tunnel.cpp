@@ -18,8 +18,9 @@ void sort_vids(GPonOntSelectiveTunnel& tunnel)
         for (int i = 0; i < last - pass; ++i) {
             const s16 vid = tunnel.uvid[i];
             const s16 next = tunnel.uvid[i + 1];
-            if (next >= vid || next == end_mark)
+            if (next >= vid || next == end_mark) {
                 continue;
+            }
             tunnel.uvid[i] = next;
             tunnel.uvid[i + 1] = vid;
             swapped = true;
@@ -35,10 +36,12 @@ void append_ranges(const GPonOntSelectiveTunnel& tunnel, Text& list)
         const int vid = tunnel.uvid[i];
         const bool run_goes_on =
             i + 1 < GCFG_TUNNEL_VIDS && tunnel.uvid[i + 1] != end_mark && tunnel.uvid[i + 1] == vid + 1;
-        if (in_run && run_goes_on)
+        if (in_run && run_goes_on) {
             continue;
-        if (i != 0)
+        }
+        if (i != 0) {
             list.append(in_run ? '-' : ',');
+        }
         list.append_decimal(vid);
         in_run = run_goes_on;
     }
@@ -50,8 +53,9 @@ void append_ranges(const GPonOntSelectiveTunnel& tunnel, Text& list)
 bool getdiff_GPonOntSelectiveTunnel(GPonOntSelectiveTunnel* /*lhs*/, GPonOntSelectiveTunnel* rhs, int* key,
                                     List<char>& out)
 {
-    if (!rhs)
+    if (!rhs) {
         return false;
+    }
     sort_vids(*rhs);
     Text list;
     append_ranges(*rhs, list);

@@ -26,8 +26,9 @@ void diff_port(const Port& lhs, const Port& rhs, int port, const Where& ont)
     const Where where{ont.view, ont.key, ont.out, &shown};
     emit_changed(identity, changed_or_all, &lhs, &rhs, where);
     // The new realm is compared with the old password, not with the old realm.
-    if (wanted(changed_or_all, lhs.auth_passwd, rhs.auth_realm))
+    if (wanted(changed_or_all, lhs.auth_passwd, rhs.auth_realm)) {
         emit(where, "voice port %d authentication realm \"%s\"", text_of(rhs.auth_realm));
+    }
     emit_changed(validation_and_line, changed_or_all, &lhs, &rhs, where);
 }
 
@@ -83,12 +84,14 @@ bool getdiff_GPonOntVoice(GPonOntVoiceCfg* lhs, GPonOntVoiceCfg* rhs, int* key, 
         on_off(FIELD(Voip, tone_events), "voice rtp tone enable", "no voice rtp tone"),
         on_off(FIELD(Voip, dtmf_events), "voice rtp dtmf enable", "no voice rtp dtmf"),
     };
-    if (nothing_to_emit(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs)) {
         return false;
+    }
     const Where where{View::ont, key, out};
     emit_changed(host, changed_or_all, &lhs->voice_iphost, &rhs->voice_iphost, where);
-    for (int port = 0; port < GCFG_VOICE_PORTS; ++port)
+    for (int port = 0; port < GCFG_VOICE_PORTS; ++port) {
         diff_port(lhs->voice_port[port], rhs->voice_port[port], port, where);
+    }
     emit_changed(voip, changed_or_all, &lhs->voip, &rhs->voip, where);
     return false;
 }

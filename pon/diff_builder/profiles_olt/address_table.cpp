@@ -10,8 +10,9 @@ bool getdiff_GAddressTableConfig(GAddressTableConfig* lhs, GAddressTableConfig* 
         on_off(FIELD(GAddressTableConfig, discard_pid_unlearned_sa), "discard-pid-unlearned-sa",
                "no discard-pid-unlearned-sa"),
     };
-    if (nothing_to_emit(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs)) {
         return false;
+    }
     emit_changed(commands, changed_or_all, lhs, rhs, {View::address_table, key, out});
     return false;
 }
@@ -29,18 +30,20 @@ bool getdiff_GSvlanAddressTableConfig(GSvlanAddressTableConfig* lhs, GSvlanAddre
         on_off(FIELD(GSvlanAddressTableConfig, discard_unknown), "s-vlan %d discard-unknown",
                "no s-vlan %d discard-unknown"),
     };
-    if (nothing_to_emit(lhs, rhs) || (lhs->svlan == 0 && rhs->svlan == 0))
+    if (nothing_to_emit(lhs, rhs) || (lhs->svlan == 0 && rhs->svlan == 0)) {
         return false;
+    }
     const Value svlan = rhs->svlan;
     const Where where{View::address_table, key, out, &svlan};
     // The commands of the settings declare the S-VLAN, too; a command of its own is needed only where none has changed.
     GSvlanAddressTableConfig old_settings = *lhs;
     old_settings.exist = rhs->exist;
     old_settings.svlan = rhs->svlan;
-    if (wanted(changed_or_all, old_settings, *rhs))
+    if (wanted(changed_or_all, old_settings, *rhs)) {
         emit_changed(settings, changed_or_all, lhs, rhs, where);
-    else if ((lhs->exist == 0 && rhs->exist != 0) || lhs->svlan != rhs->svlan)
+    } else if ((lhs->exist == 0 && rhs->exist != 0) || lhs->svlan != rhs->svlan) {
         emit(where, "s-vlan %d");
+    }
     return false;
 }
 
@@ -48,11 +51,13 @@ bool getdiff_GSvlanAddressTableConfig(GSvlanAddressTableConfig* lhs, GSvlanAddre
 bool getdiff_GPonProfileOltAddressTable(GPonProfileOltAddressTable* lhs, GPonProfileOltAddressTable* rhs, int* key,
                                         List<char>& out)
 {
-    if (no_profile(lhs, rhs))
+    if (no_profile(lhs, rhs)) {
         return false;
+    }
     if (rhs->exist == 0) {
-        if (navigate({View::configure, key, out}))
+        if (navigate({View::configure, key, out})) {
             append(out, "no profile address-table %s", text_of(lhs->name));
+        }
         return false;
     }
     const Where where{View::address_table, key, out};

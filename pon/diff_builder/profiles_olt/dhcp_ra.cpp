@@ -17,8 +17,9 @@ bool getdiff_GPonProfileOltDhcpRa(GPonProfileOltDhcpRa* lhs, GPonProfileOltDhcpR
         ipv4(FIELD(GPonProfileOltDhcpRa, trusted_secondary), "trusted secondary \"%s\""),
         number(FIELD(GPonProfileOltDhcpRa, trusted_server_timeout), "trusted timeout \"%s\""),
     };
-    if (no_profile(lhs, rhs))
+    if (no_profile(lhs, rhs)) {
         return false;
+    }
     const Where where{View::dhcp_ra, key, out};
     emit_profile_head(lhs, rhs, where);
     emit_changed(agent, changed_or_all, lhs, rhs, where);

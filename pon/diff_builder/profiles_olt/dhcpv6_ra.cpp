@@ -9,8 +9,9 @@ void emit_suboptions(const GPonProfileOltDhcpv6Ra* lhs, const GPonProfileOltDhcp
 {
     const bool both_changed = lhs->write_interface_id_option != rhs->write_interface_id_option &&
                               lhs->write_remote_id_option != rhs->write_remote_id_option;
-    if (forced(changed_or_all) || both_changed)
+    if (forced(changed_or_all) || both_changed) {
         emit(where, rhs->write_interface_id_option != 0 ? "add-suboptions" : "no add-suboptions");
+    }
 }
 
 } // namespace
@@ -29,8 +30,9 @@ bool getdiff_GPonProfileOltDhcpv6Ra(GPonProfileOltDhcpv6Ra* lhs, GPonProfileOltD
         ipv6(FIELD(GPonProfileOltDhcpv6Ra, trusted_secondary), "trusted secondary \"%s\""),
         number(FIELD(GPonProfileOltDhcpv6Ra, trusted_server_timeout), "trusted timeout \"%s\""),
     };
-    if (no_profile(lhs, rhs))
+    if (no_profile(lhs, rhs)) {
         return false;
+    }
     const Where where{View::dhcpv6_ra, key, out};
     emit_profile_head(lhs, rhs, where);
     emit_changed(agent, changed_or_all, lhs, rhs, where);

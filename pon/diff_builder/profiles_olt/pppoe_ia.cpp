@@ -14,12 +14,13 @@ void emit_session_limits(const GPonProfileOltPppoeIa* lhs, const GPonProfileOltP
                                : Value(rhs->max_number_pppoe_sessions_per_user);
     const bool limit_changed = lhs->max_number_pppoe_sessions != rhs->max_number_pppoe_sessions;
     const bool per_user_changed = lhs->max_number_pppoe_sessions_per_user != rhs->max_number_pppoe_sessions_per_user;
-    if (limit_changed && per_user_changed)
+    if (limit_changed && per_user_changed) {
         emit(where, "sessions-limit %s per-user %s", limit, per_user);
-    else if (limit_changed)
+    } else if (limit_changed) {
         emit(where, "sessions-limit %s", limit);
-    else if (per_user_changed)
+    } else if (per_user_changed) {
         emit(where, "sessions-limit per-user %s", per_user);
+    }
 }
 
 } // namespace
@@ -40,8 +41,9 @@ bool getdiff_GPonProfileOltPppoeIa(GPonProfileOltPppoeIa* lhs, GPonProfileOltPpp
         on_off(FIELD(GPonProfileOltPppoeIa, sessions_monitoring), "sessions-monitoring enable",
                "no sessions-monitoring enable"),
     };
-    if (no_profile(lhs, rhs))
+    if (no_profile(lhs, rhs)) {
         return false;
+    }
     const Where where{View::pppoe_ia, key, out};
     emit_profile_head(lhs, rhs, where);
     emit_changed(agent, changed_or_all, lhs, rhs, where);

@@ -4,8 +4,9 @@ using namespace pondiff;
 
 bool getdiff_GPonProfilesOlt(GPonProfilesOlt* lhs, GPonProfilesOlt* rhs, int* key, List<char>& out)
 {
-    if (nothing_to_emit(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs)) {
         return false;
+    }
     descend_each(changed_or_all, getdiff_GPonProfileOltVlan, lhs->vlan, rhs->vlan, of_object, key, out);
     descend_each(changed_or_all, getdiff_GPonProfileOltAddressTable, lhs->address_table, rhs->address_table, of_object,
                  key, out);

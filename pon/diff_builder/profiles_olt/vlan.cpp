@@ -10,8 +10,9 @@ bool getdiff_GVlanGeneralCfg(GVlanGeneralCfg* lhs, GVlanGeneralCfg* rhs, int* ke
         hexadecimal(FIELD(GVlanGeneralCfg, insertion_svlan_ethertype), 4, "%s insertion svlan-ethertype \"%s\""),
         hexadecimal(FIELD(GVlanGeneralCfg, insertion_cvlan_ethertype), 4, "%s insertion cvlan-ethertype \"%s\""),
     };
-    if (nothing_to_emit(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs)) {
         return false;
+    }
     const Value direction = key[of_element] != 0 ? "downlink" : "uplink";
     emit_changed(commands, changed_or_all, lhs, rhs, {View::vlan, key, out, &direction});
     return false;
@@ -20,11 +21,13 @@ bool getdiff_GVlanGeneralCfg(GVlanGeneralCfg* lhs, GVlanGeneralCfg* rhs, int* ke
 /// The name is never forced: a full dump leaves it out.
 bool getdiff_GPonProfileOltVlan(GPonProfileOltVlan* lhs, GPonProfileOltVlan* rhs, int* key, List<char>& out)
 {
-    if (no_profile(lhs, rhs))
+    if (no_profile(lhs, rhs)) {
         return false;
+    }
     if (rhs->exist == 0) {
-        if (navigate({View::configure, key, out}))
+        if (navigate({View::configure, key, out})) {
             append(out, "no profile vlan %s", text_of(lhs->name));
+        }
         return false;
     }
     const Where where{View::vlan, key, out};

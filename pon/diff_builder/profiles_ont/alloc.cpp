@@ -7,8 +7,9 @@ bool getdiff_GPonProfileOntAlloc(GPonProfileOntAlloc* lhs, GPonProfileOntAlloc* 
     static constexpr Row<GPonProfileOntAlloc> allocation_scheme =
         on_off(FIELD(GPonProfileOntAlloc, allocate_new_alloc), "allocation-scheme allocate-new-t-cont",
                "no allocation-scheme");
-    if (no_profile(lhs, rhs))
+    if (no_profile(lhs, rhs)) {
         return false;
+    }
     const Where where{View::alloc, key, out};
     emit_profile_head(lhs, rhs, where);
     emit_changed(allocation_scheme, changed_or_all, lhs, rhs, where);
@@ -18,8 +19,9 @@ bool getdiff_GPonProfileOntAlloc(GPonProfileOntAlloc* lhs, GPonProfileOntAlloc* 
 
 bool getdiff_GPonOntDba(GPonOntDba* lhs, GPonOntDba* rhs, int* key, List<char>& out)
 {
-    if (nothing_to_emit(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs)) {
         return false;
+    }
     char name[] = "sla_data";
     return getdiff_GZorvanSLA(name, &lhs->sla_data, &rhs->sla_data, key, out);
 }
@@ -35,8 +37,9 @@ bool getdiff_GZorvanSLA(char* /*name*/, GZorvanSLA* lhs, GZorvanSLA* rhs, int* k
         number(FIELD(GZorvanSLA, guaranteed_bandwidth), "bandwidth guaranteed \"%s\""),
         number(FIELD(GZorvanSLA, besteffort_bandwidth), "bandwidth besteffort \"%s\""),
     };
-    if (nothing_to_emit(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs)) {
         return false;
+    }
     emit_changed(commands, changed_or_all, lhs, rhs, {View::alloc, key, out});
     return false;
 }

@@ -64,8 +64,9 @@ constexpr Row<Profile> service[] = {
 bool getdiff_GPonProfileOntCrossConnect(GPonProfileOntCrossConnect* lhs, GPonProfileOntCrossConnect* rhs, int* key,
                                         List<char>& out)
 {
-    if (no_profile(lhs, rhs))
+    if (no_profile(lhs, rhs)) {
         return false;
+    }
     const Where where{View::cross_connect, key, out};
     const auto emit_new = [&](const auto& rows) { emit_changed(rows, changed_or_all, lhs, rhs, where); };
 
@@ -75,15 +76,17 @@ bool getdiff_GPonProfileOntCrossConnect(GPonProfileOntCrossConnect* lhs, GPonPro
     emit_new(terminal_vlan_of_cos(rhs->outer_cos) ? outer_terminal_cos : outer_cos);
     emit_new(terminal_vlan_of_vid(rhs->inner_vid) ? inner_terminal_vlan : inner_vid);
 
-    if (terminal_vlan_of_vid(rhs->u_vid))
+    if (terminal_vlan_of_vid(rhs->u_vid)) {
         emit_new(user_terminal_vlan);
-    else
+    } else {
         emit_new(rhs->u_vid == untagged_vid ? user_untagged : user_vid);
+    }
 
-    if (terminal_vlan_of_cos(rhs->u_cos))
+    if (terminal_vlan_of_cos(rhs->u_cos)) {
         emit_new(user_terminal_cos);
-    else
+    } else {
         emit_new(rhs->u_cos == unused_cos ? user_cos_unused : user_cos);
+    }
 
     emit_new(rhs->mac_table_entry_limit == no_mac_table_limit ? mac_table_unlimited : mac_table_limit);
     emit_new(service);

@@ -12,8 +12,9 @@ bool getdiff_GPonProfileOntManagement(GPonProfileOntManagement* lhs, GPonProfile
         text(FIELD(GPonProfileOntManagement, username), "username \"%s\""),
         text(FIELD(GPonProfileOntManagement, password), "password \"%s\""),
     };
-    if (no_profile(lhs, rhs))
+    if (no_profile(lhs, rhs)) {
         return false;
+    }
     const Where where{View::management, key, out};
     emit_profile_head(lhs, rhs, where);
     emit_changed(commands, changed_or_all, lhs, rhs, where);

@@ -58,25 +58,28 @@ void emit_range(const Entry* lhs, const Entry* rhs, const Where& where)
 {
     const bool force = forced(changed_or_all);
 
-    if (lhs->vlan_id != rhs->vlan_id)
+    if (lhs->vlan_id != rhs->vlan_id) {
         emit(where, "%s multicast dynamic-entry $ID1 vid \"%s\"", rhs->vlan_id);
-    else if (force)
+    } else if (force) {
         emit(where, "no %s multicast dynamic-entry $ID1 vid");
+    }
 
     if (wanted(changed_only, lhs->first_group_ip, rhs->first_group_ip) ||
-        wanted(changed_only, lhs->last_group_ip, rhs->last_group_ip))
+        wanted(changed_only, lhs->last_group_ip, rhs->last_group_ip)) {
         emit(where, "%s multicast dynamic-entry $ID1 group \"%s\" \"%s\"", group(rhs->first_group_ip),
              group(rhs->last_group_ip));
-    else if (force)
+    } else if (force) {
         emit(where, "no %s multicast dynamic-entry $ID1 group");
+    }
 }
 
 } // namespace
 
 bool getdiff_GPonIgmpSettings(GPonIgmpSettings* lhs, GPonIgmpSettings* rhs, int* key, List<char>& out)
 {
-    if (nothing_to_emit(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs)) {
         return false;
+    }
     emit_settings(lhs, rhs, key, out);
     descend_each(changed_or_all, getdiff_GPonMulticastDynamicEntry, lhs->multicast_dynamic_entry,
                  rhs->multicast_dynamic_entry, of_element, key, out);
@@ -85,8 +88,9 @@ bool getdiff_GPonIgmpSettings(GPonIgmpSettings* lhs, GPonIgmpSettings* rhs, int*
 
 bool getdiff_GPonMldSettings(GPonMldSettings* lhs, GPonMldSettings* rhs, int* key, List<char>& out)
 {
-    if (nothing_to_emit(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs)) {
         return false;
+    }
     emit_settings(lhs, rhs, key, out);
     descend_each(changed_or_all, getdiff_GPonMulticastDynamicEntryV6, lhs->multicast_dynamic_entry_mld,
                  rhs->multicast_dynamic_entry_mld, of_element, key, out);
@@ -96,8 +100,9 @@ bool getdiff_GPonMldSettings(GPonMldSettings* lhs, GPonMldSettings* rhs, int* ke
 bool getdiff_GPonMulticastDynamicEntry(GPonMulticastDynamicEntry* lhs, GPonMulticastDynamicEntry* rhs, int* key,
                                        List<char>& out)
 {
-    if (nothing_to_emit(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs)) {
         return false;
+    }
     const Value protocol = Protocol<GPonIgmpSettings>::word;
     emit_range(lhs, rhs, {View::ports, key, out, &protocol});
     return false;
@@ -116,8 +121,9 @@ bool getdiff_GPonMulticastDynamicEntryV6(GPonMulticastDynamicEntryV6* lhs, GPonM
         number(FIELD(GPonMulticastDynamicEntryV6, preview_reset_time),
                "%s multicast dynamic-entry $ID1 preview-reset-time \"%s\""),
     };
-    if (nothing_to_emit(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs)) {
         return false;
+    }
     const Value protocol = Protocol<GPonMldSettings>::word;
     const Where where{View::ports, key, out, &protocol};
     emit_range(lhs, rhs, where);

@@ -12,8 +12,9 @@ bool emit_uni_shaping(const char* direction, const GPonUniShaping* lhs, const GP
         number(FIELD(GPonUniShaping, commited_rate), "port $ID1 shaper %s commited-rate \"%s\""),
         number(FIELD(GPonUniShaping, peak_rate), "port $ID1 shaper %s peak-rate \"%s\""),
     };
-    if (nothing_to_emit(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs)) {
         return false;
+    }
     const Value lead = direction;
     emit_changed(commands, changed_or_all, lhs, rhs, {View::ports, key, out, &lead});
     return false;
@@ -25,8 +26,9 @@ bool getdiff_GPonProfileOntPorts(GPonProfileOntPorts* lhs, GPonProfileOntPorts* 
 {
     static constexpr Row<GPonProfileOntPorts> ip_version = enumeration(
         FIELD(GPonProfileOntPorts, multicast_ip_version), "GOntMulticastIpVersion_enum", "multicast ip version %s");
-    if (no_profile(lhs, rhs))
+    if (no_profile(lhs, rhs)) {
         return false;
+    }
     const Where where{View::ports, key, out};
     emit_profile_head(lhs, rhs, where);
     emit_changed(ip_version, changed_or_all, lhs, rhs, where);
@@ -49,8 +51,9 @@ bool getdiff_GPonUniPort(GPonUniPort* lhs, GPonUniPort* rhs, int* key, List<char
         on_off(FIELD(GPonUniPort, remove_tag), "port $ID1 remove-tag", "no port $ID1 remove-tag"),
         on_off(FIELD(GPonUniPort, multicast_enable), "port $ID1 multicast", "no port $ID1 multicast"),
     };
-    if (nothing_to_emit(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs)) {
         return false;
+    }
     emit_changed(commands, changed_or_all, lhs, rhs, {View::ports, key, out});
     getdiff_GPonMulticastClientPortSettings("port[$ID1]", &lhs->multicast_port_settings, &rhs->multicast_port_settings,
                                             key, out);
@@ -63,8 +66,9 @@ bool getdiff_GPonVeipPort(GPonVeipPort* lhs, GPonVeipPort* rhs, int* key, List<c
 {
     static constexpr Row<GPonVeipPort> multicast =
         on_off(FIELD(GPonVeipPort, multicast_enable), "veip multicast", "no veip multicast");
-    if (nothing_to_emit(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs)) {
         return false;
+    }
     emit_changed(multicast, changed_or_all, lhs, rhs, {View::ports, key, out});
     getdiff_GPonMulticastClientPortSettings("veip", &lhs->multicast_port_settings, &rhs->multicast_port_settings, key,
                                             out);
@@ -96,8 +100,9 @@ bool getdiff_GPonMulticastClientPortSettings(const char* prefix, GPonMulticastCl
         number(FIELD(Settings, max_groups), "%s max groups \"%s\""),
         number(FIELD(Settings, max_multicast_bandwidth), "%s max bandwidth \"%s\""),
     };
-    if (nothing_to_emit(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs)) {
         return false;
+    }
     const bool is_uni = prefix && std::strcmp(prefix, "port[$ID1]") == 0;
     const Value lead = is_uni ? "port $ID1 igmp" : prefix;
     emit_changed(commands, changed_or_all, lhs, rhs, {View::ports, key, out, &lead});

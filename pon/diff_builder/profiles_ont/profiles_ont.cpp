@@ -5,8 +5,9 @@ using namespace pondiff;
 /// Not in the order of the record: voice comes before management, and the templates, which refer to all others, last.
 bool getdiff_GPonProfilesOnt(GPonProfilesOnt* lhs, GPonProfilesOnt* rhs, int* key, List<char>& out)
 {
-    if (nothing_to_emit(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs)) {
         return false;
+    }
     descend_each(changed_or_all, getdiff_GPonProfileOntShaping, lhs->shaping, rhs->shaping, of_object, key, out);
     descend_each(changed_or_all, getdiff_GPonProfileOntCrossConnect, lhs->cross_connect, rhs->cross_connect, of_object,
                  key, out);

@@ -26,10 +26,12 @@ enum StormStatus : unsigned char { storm_done = 0, storm_navigation_lost = 1, st
 StormStatus emit_storm(const char* traffic, const Storm& before, const Storm& after, const Where& where)
 {
     const bool new_limit = before.threshold != after.threshold;
-    if (!new_limit && before.logging == after.logging && before.shutdown == after.shutdown)
+    if (!new_limit && before.logging == after.logging && before.shutdown == after.shutdown) {
         return storm_done;
-    if (!navigate(where))
+    }
+    if (!navigate(where)) {
         return storm_navigation_lost;
+    }
     const char* const logging = after.logging != 0 ? " logging" : "";
     const char* const shutdown = after.shutdown != 0 ? " shutdown" : "";
     const bool emitted = new_limit ? command(where, "upstream %s storm-control rate-limit %u%s%s", traffic,
@@ -42,8 +44,9 @@ StormStatus emit_storm(const char* traffic, const Storm& before, const Storm& af
 
 bool getdiff_GPonProfileOntShaping(GPonProfileOntShaping* lhs, GPonProfileOntShaping* rhs, int* key, List<char>& out)
 {
-    if (no_profile(lhs, rhs))
+    if (no_profile(lhs, rhs)) {
         return false;
+    }
     emit_profile_head(lhs, rhs, {View::shaping, key, out});
     descend(changed_or_all, getdiff_GPonOntShapingDownstream, lhs->downstream, rhs->downstream, key, out);
     descend(changed_or_all, getdiff_GPonOntShapingUpstream, lhs->upstream, rhs->upstream, key, out);
@@ -55,8 +58,9 @@ bool getdiff_GPonOntShapingDownstream(GPonOntShapingDownstream* lhs, GPonOntShap
 {
     static constexpr Row<GPonOntShapingDownstream> one_policer =
         on_off(FIELD(GPonOntShapingDownstream, one_policer), "downstream one-policer", "no downstream one-policer");
-    if (nothing_to_emit(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs)) {
         return false;
+    }
     emit_changed(one_policer, changed_or_all, lhs, rhs, {View::shaping, key, out});
     descend_each(changed_or_all, getdiff_GPonOntShapingDownstreamParams, lhs->policer, rhs->policer, of_element, key,
                  out);
@@ -71,16 +75,18 @@ bool getdiff_GPonOntShapingDownstreamParams(GPonOntShapingDownstreamParams* lhs,
                "no downstream policer $ID1 enable"),
         number(FIELD(GPonOntShapingDownstreamParams, peak_rate), "downstream policer $ID1 peak-rate \"%s\""),
     };
-    if (nothing_to_emit(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs)) {
         return false;
+    }
     emit_changed(commands, changed_or_all, lhs, rhs, {View::shaping, key, out});
     return false;
 }
 
 bool getdiff_GPonOntShapingUpstream(GPonOntShapingUpstream* lhs, GPonOntShapingUpstream* rhs, int* key, List<char>& out)
 {
-    if (nothing_to_emit(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs)) {
         return false;
+    }
     diff_shapers("", lhs->shaper, rhs->shaper, key, out);
     diff_shapers("unicast", lhs->shaper_unicast, rhs->shaper_unicast, key, out);
     diff_shapers("multicast", lhs->shaper_multicast, rhs->shaper_multicast, key, out);
@@ -98,8 +104,9 @@ bool getdiff_GPonOntShapingUpstreamParams(const char* traffic_class, GPonOntShap
         number_as_signed(FIELD(GPonOntShapingUpstreamParams, commited_rate), "upstream %s $ID1 commited-rate %d"),
         number_as_signed(FIELD(GPonOntShapingUpstreamParams, peak_rate), "upstream %s $ID1 peak-rate %d"),
     };
-    if (nothing_to_emit(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs)) {
         return false;
+    }
     const Value lead = traffic_class;
     emit_changed(commands, changed_only, lhs, rhs, {View::shaping, key, out, &lead});
     return false;
@@ -109,15 +116,17 @@ bool getdiff_GPonOntShapingUpstreamParams(const char* traffic_class, GPonOntShap
 unsigned char getdiff_GPonOntStormControl(GPonOntStormControl* lhs, GPonOntStormControl* rhs, int* key, List<char>& out)
 {
     constexpr unsigned char of_multicast = 10;
-    if (nothing_to_emit(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs)) {
         return storm_done;
+    }
     const Where where{View::shaping, key, out};
 
     const StormStatus broadcast =
         emit_storm("broadcast", {lhs->broadcast_threshold, lhs->broadcast_logging, lhs->broadcast_shutdown},
                    {rhs->broadcast_threshold, rhs->broadcast_logging, rhs->broadcast_shutdown}, where);
-    if (broadcast != storm_done)
+    if (broadcast != storm_done) {
         return broadcast;
+    }
 
     const StormStatus multicast =
         emit_storm("multicast", {lhs->multicast_threshold, lhs->multicast_logging, lhs->multicast_shutdown},

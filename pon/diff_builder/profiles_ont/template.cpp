@@ -61,8 +61,9 @@ constexpr Row<Template> behind_services[] = {
 
 bool getdiff_GPonTemplateOnt(GPonTemplateOnt* lhs, GPonTemplateOnt* rhs, int* key, List<char>& out)
 {
-    if (no_profile(lhs, rhs))
+    if (no_profile(lhs, rhs)) {
         return false;
+    }
     const Where where{View::template_ont, key, out};
     emit_profile_head(lhs, rhs, where);
     emit_changed(identity, changed_or_all, lhs, rhs, where);
@@ -73,9 +74,10 @@ bool getdiff_GPonTemplateOnt(GPonTemplateOnt* lhs, GPonTemplateOnt* rhs, int* ke
     // A full dump leaves equal services out.
     for (int service = 0; service < GCFG_SERVICES; ++service) {
         const Value number = service;
-        for (const Row<Template>& row : service_commands)
+        for (const Row<Template>& row : service_commands) {
             emit_changed(element(row, static_cast<std::size_t>(service)), changed_only, lhs, rhs,
                          {where.view, key, out, &number});
+        }
     }
 
     emit_changed(behind_services, changed_or_all, lhs, rhs, where);

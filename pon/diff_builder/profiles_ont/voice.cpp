@@ -4,8 +4,9 @@ using namespace pondiff;
 
 bool getdiff_GPonProfileOntVoice(GPonProfileOntVoice* lhs, GPonProfileOntVoice* rhs, int* key, List<char>& out)
 {
-    if (no_profile(lhs, rhs))
+    if (no_profile(lhs, rhs)) {
         return false;
+    }
     const Where where{View::voice, key, out};
     emit_profile_head(lhs, rhs, where);
     descend(changed_or_all, getdiff_GPonProfileOntVoiceSip, lhs->sip, rhs->sip, key, out);
@@ -23,8 +24,9 @@ bool getdiff_GPonProfileOntVoiceSip(GPonProfileOntVoiceSip* lhs, GPonProfileOntV
         enumeration(FIELD(GPonProfileOntVoiceSip, proto), "GPonProfileOntVoiceSipProtocol_enum", "sip proto \"%s\""),
         number(FIELD(GPonProfileOntVoiceSip, expire_time), "sip register expire %d"),
     };
-    if (nothing_to_emit(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs)) {
         return false;
+    }
     emit_changed(commands, changed_or_all, lhs, rhs, {View::voice, key, out});
     return false;
 }

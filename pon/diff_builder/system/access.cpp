@@ -11,8 +11,9 @@ namespace {
 void diff_allow_entry(const char* service, const GSystemServiceAllow* lhs, const GSystemServiceAllow* rhs, int* key,
                       List<char>& out)
 {
-    if (nothing_to_emit(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs)) {
         return;
+    }
     emit({View::configure, key, out}, "%s allow ip $ID0 mask \"%s\"", service, rhs->mask);
 }
 
@@ -36,16 +37,18 @@ bool getdiff_GSystemServiceAllow(char* prefix, GSystemServiceAllow* lhs, GSystem
 /// The switches of HTTP and HTTPS have no commands.
 bool getdiff_GSystemHttpCfg(GSystemHttpCfg* lhs, GSystemHttpCfg* rhs, int* key, List<char>& out)
 {
-    if (nothing_to_emit(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs)) {
         return false;
+    }
     diff_allow_list("http", lhs->allow, rhs->allow, key, out);
     return false;
 }
 
 bool getdiff_GSystemHttpsCfg(GSystemHttpsCfg* lhs, GSystemHttpsCfg* rhs, int* key, List<char>& out)
 {
-    if (nothing_to_emit(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs)) {
         return false;
+    }
     diff_allow_list("https", lhs->allow, rhs->allow, key, out);
     return false;
 }
@@ -56,8 +59,9 @@ bool getdiff_GSystemTelnetCfg(GSystemTelnetCfg* lhs, GSystemTelnetCfg* rhs, int*
         on_off(FIELD(GSystemTelnetCfg, enabled), "ip telnet enable", "no ip telnet enable"),
         on_off(FIELD(GSystemTelnetCfg, access_control), "ip telnet access-control", "no ip telnet access-control"),
     };
-    if (nothing_to_emit(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs)) {
         return false;
+    }
     emit_changed(switches, changed_or_all, lhs, rhs, {View::configure, key, out});
     diff_allow_list("ip telnet", lhs->allow, rhs->allow, key, out);
     return false;
@@ -69,8 +73,9 @@ bool getdiff_GSystemSshCfg(GSystemSshCfg* lhs, GSystemSshCfg* rhs, int* key, Lis
         on_off(FIELD(GSystemSshCfg, enabled), "ip ssh enable", "no ip ssh enable"),
         on_off(FIELD(GSystemSshCfg, access_control), "ip ssh access-control", "no ip ssh access-control"),
     };
-    if (nothing_to_emit(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs)) {
         return false;
+    }
     emit_changed(switches, changed_or_all, lhs, rhs, {View::configure, key, out});
     diff_allow_list("ip ssh", lhs->allow, rhs->allow, key, out);
     return false;

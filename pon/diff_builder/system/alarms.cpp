@@ -11,8 +11,9 @@ namespace {
 
 bool getdiff_GSystemAlarmCfg(GSystemAlarmCfg* lhs, GSystemAlarmCfg* rhs, int* key, List<char>& out)
 {
-    if (nothing_to_emit(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs)) {
         return false;
+    }
     descend_each(changed_or_common, getdiff_GSystemAlarmTypeCfg, lhs->type, rhs->type, of_object, key, out);
     descend(changed_or_common, getdiff_GSystemAlarmSystemCfg, lhs->cfg, rhs->cfg, key, out);
     return false;
@@ -27,8 +28,9 @@ bool getdiff_GSystemAlarmTypeCfg(GSystemAlarmTypeCfg* lhs, GSystemAlarmTypeCfg* 
         enumeration(FIELD(GSystemAlarmTypeCfg, send_on_out), "GBool_enum", "alarm $ID0 out %s"),
         number(FIELD(GSystemAlarmTypeCfg, ttl), "alarm $ID0 ttl \"%s\""),
     };
-    if (nothing_to_emit(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs)) {
         return false;
+    }
     emit_changed(commands, changed_or_common, lhs, rhs, {View::configure, key, out});
     return false;
 }
@@ -43,16 +45,21 @@ bool getdiff_GSystemAlarmSystemCfg(GSystemAlarmSystemCfg* lhs, GSystemAlarmSyste
         number(FIELD(GSystemAlarmSystemCfg, free_ram), "alarm ram free-ram \"%s\""),
         number(FIELD(GSystemAlarmSystemCfg, free_space), "alarm free-space level \"%s\""),
     };
-    if (nothing_to_emit(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs)) {
         return false;
+    }
     const Where where{View::configure, key, out};
     emit_changed(load_average, changed_only, lhs, rhs, where);
     emit_changed(free_memory, changed_or_common, lhs, rhs, where);
-    for (int i = 0; i < GCFG_TEMPERATURE_SENSORS; ++i)
-        if (lhs->temperature[i] != rhs->temperature[i])
+    for (int i = 0; i < GCFG_TEMPERATURE_SENSORS; ++i) {
+        if (lhs->temperature[i] != rhs->temperature[i]) {
             emit(where, "alarm temperature sensor%d max \"%d\"", i + 1, rhs->temperature[i]);
-    for (int i = 0; i < GCFG_TEMPERATURE_SENSORS; ++i)
-        if (lhs->min_temperature[i] != rhs->min_temperature[i])
+        }
+    }
+    for (int i = 0; i < GCFG_TEMPERATURE_SENSORS; ++i) {
+        if (lhs->min_temperature[i] != rhs->min_temperature[i]) {
             emit(where, "alarm temperature sensor%d min \"%d\"", i + 1, rhs->min_temperature[i]);
+        }
+    }
     return false;
 }

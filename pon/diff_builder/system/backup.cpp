@@ -10,8 +10,9 @@ bool getdiff_GSystemTftpCfg(GSystemTftpCfg* lhs, GSystemTftpCfg* rhs, int* key, 
         number(FIELD(GSystemTftpCfg, backup_on_timer_period), "backup timer period \"%s\""),
         text(FIELD(GSystemTftpCfg, backup_uri), "backup uri \"%s\""),
     };
-    if (nothing_to_emit(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs)) {
         return false;
+    }
     emit_changed(commands, changed_or_all, lhs, rhs, {View::configure, key, out});
     return false;
 }
@@ -22,8 +23,9 @@ bool getdiff_GSystemConfigCfg(GSystemConfigCfg* lhs, GSystemConfigCfg* rhs, int*
         on_off(FIELD(GSystemConfigCfg, autosave), "config autosave enable", "no config autosave enable"),
         number(FIELD(GSystemConfigCfg, autosave_hour), "config autosave hour \"%s\""),
     };
-    if (nothing_to_emit(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs)) {
         return false;
+    }
     emit_changed(commands, changed_or_all, lhs, rhs, {View::configure, key, out});
     return false;
 }

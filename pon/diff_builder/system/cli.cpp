@@ -8,8 +8,9 @@ bool getdiff_GSystemCliCfg(GSystemCliCfg* lhs, GSystemCliCfg* rhs, int* key, Lis
         number(FIELD(GSystemCliCfg, session_timeout), "cli session-timeout \"%s\""),
         number(FIELD(GSystemCliCfg, number_of_cli_sessions), "cli max-sessions \"%s\""),
     };
-    if (nothing_to_emit(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs)) {
         return false;
+    }
     emit_changed(commands, changed_or_all, lhs, rhs, {View::configure, key, out});
     descend(changed_or_all, getdiff_GCustomOntListShowing, lhs->custom_ont_list_showing, rhs->custom_ont_list_showing,
             key, out);
@@ -42,8 +43,9 @@ bool getdiff_GCustomOntListShowing(GCustomOntListShowing* lhs, GCustomOntListSho
                "no cli display profile cross-connect"),
         on_off(FIELD(GCustomOntListShowing, profile_alloc), "cli display profile dba", "no cli display profile dba"),
     };
-    if (nothing_to_emit(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs)) {
         return false;
+    }
     emit_changed(columns, changed_or_all, lhs, rhs, {View::configure, key, out});
     return false;
 }

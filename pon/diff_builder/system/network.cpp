@@ -13,8 +13,9 @@ bool getdiff_GSystemMgmtCfg(GSystemNetworkCfg* lhs, GSystemNetworkCfg* rhs, int*
         number(FIELD(GSystemNetworkCfg, vlan_prio), "management cos \"%s\""),
         number(FIELD(GSystemNetworkCfg, dscp), "management dscp \"%s\""),
     };
-    if (nothing_to_emit(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs)) {
         return false;
+    }
     emit_changed(commands, changed_or_all, lhs, rhs, {View::configure, key, out});
     return false;
 }
@@ -31,8 +32,9 @@ bool getdiff_GSystemAcsMgmtCfg(GSystemNetworkCfg* lhs, GSystemNetworkCfg* rhs, i
         ipv4(FIELD(GSystemNetworkCfg, ACSMask), "ip acs server mask \"%s\""),
         number(FIELD(GSystemNetworkCfg, ACSVid), "ip acs server vid \"%s\""),
     };
-    if (nothing_to_emit(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs)) {
         return false;
+    }
     emit_changed(commands, changed_or_all, lhs, rhs, {View::configure, key, out});
     return false;
 }

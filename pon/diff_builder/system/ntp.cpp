@@ -11,8 +11,9 @@ bool getdiff_GSystemNtpCfg(GSystemNtpCfg* lhs, GSystemNtpCfg* rhs, int* key, Lis
         number(FIELD(GSystemNtpCfg, timezone), "ip ntp timezone \"%s\""),
         on_off(FIELD(GSystemNtpCfg, daylightsaving), "ip ntp daylightsaving", "no ip ntp daylightsaving"),
     };
-    if (nothing_to_emit(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs)) {
         return false;
+    }
     emit_changed(commands, changed_or_all, lhs, rhs, {View::configure, key, out});
     return false;
 }

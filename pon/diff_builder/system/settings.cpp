@@ -9,8 +9,9 @@ bool getdiff_GSystemCommonSettings(GSystemCommonSettings* lhs, GSystemCommonSett
         enumeration(FIELD(GSystemCommonSettings, ont_sn_format), "GOntSnDisplayFormatType_enum",
                     "cli ont-sn-format \"%s\""),
     };
-    if (nothing_to_emit(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs)) {
         return false;
+    }
     emit_changed(commands, changed_or_common, lhs, rhs, {View::configure, key, out});
     return false;
 }

@@ -18,8 +18,9 @@ bool getdiff_GSystemSnmpCfg(GSystemSnmpCfg* lhs, GSystemSnmpCfg* rhs, int* key, 
         enumeration(FIELD(GSystemSnmpCfg, serialNum), "GOntSnDisplayFormatType_enum", "ip snmp ont-sn-format \"%s\""),
         engine_id(FIELD(GSystemSnmpCfg, engineID), "ip snmp engineID \"%s\""),
     };
-    if (nothing_to_emit(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs)) {
         return false;
+    }
     emit_changed(commands, changed_or_all, lhs, rhs, {View::configure, key, out});
     diff_allow_list("ip snmp", lhs->allow, rhs->allow, key, out);
     descend_each(changed_or_all, getdiff_GSystemSnmpTrap, lhs->traps, rhs->traps, of_object, key, out);
@@ -30,8 +31,9 @@ bool getdiff_GSystemSnmpCfg(GSystemSnmpCfg* lhs, GSystemSnmpCfg* rhs, int* key, 
 /// A new type is emitted only together with a new address.
 bool getdiff_GSystemSnmpTrap(GSystemSnmpTrap* lhs, GSystemSnmpTrap* rhs, int* key, List<char>& out)
 {
-    if (!lhs || !rhs || !wanted(changed_or_all, lhs->ipaddr, rhs->ipaddr))
+    if (!lhs || !rhs || !wanted(changed_or_all, lhs->ipaddr, rhs->ipaddr)) {
         return false;
+    }
     emit({View::configure, key, out}, "ip snmp traps %s type %s", ipv4_of(rhs->ipaddr),
          enum_word("GSnmpTrapType_enum", rhs->type));
     return false;
@@ -44,8 +46,9 @@ bool getdiff_GSystemSnmpAlias(GSystemSnmpAlias* lhs, GSystemSnmpAlias* rhs, int*
         on_off(FIELD(GSystemSnmpAlias, upDownTrapEnable), "ip snmp alias name $ID0 up-down-trap",
                "no ip snmp alias name $ID0 up-down-trap"),
     };
-    if (nothing_to_emit(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs)) {
         return false;
+    }
     emit_changed(commands, changed_or_all, lhs, rhs, {View::configure, key, out});
     return false;
 }

@@ -9,8 +9,9 @@ bool getdiff_GSystemSourceGuardCfg(GSystemSourceGuardCfg* lhs, GSystemSourceGuar
         on_off(FIELD(GSystemSourceGuardCfg, enabled), "ip source-guard enable", "no ip source-guard enable"),
         enumeration(FIELD(GSystemSourceGuardCfg, mode), "GSystemIPSourceGuardMode_enum", "ip source-guard mode %s"),
     };
-    if (nothing_to_emit(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs)) {
         return false;
+    }
     emit_changed(commands, changed_or_all, lhs, rhs, {View::configure, key, out});
     descend_each(changed_only, getdiff_GSystemSourceGuardBindCfg, lhs->bind, rhs->bind, of_object, key, out);
     descend_each(changed_only, getdiff_GSystemSourceGuardCfgVlanAllowed, lhs->vid, rhs->vid, of_object, key, out);
@@ -21,8 +22,9 @@ bool getdiff_GSystemSourceGuardCfg(GSystemSourceGuardCfg* lhs, GSystemSourceGuar
 bool getdiff_GSystemSourceGuardBindCfg(GSystemSourceGuardBindCfg* lhs, GSystemSourceGuardBindCfg* rhs, int* key,
                                        List<char>& out)
 {
-    if (nothing_to_emit(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs)) {
         return false;
+    }
     emit({View::configure, key, out}, "ip source-guard bind ip $ID0 mac \"%s\" interface-ont %d/%d service %d",
          mac_of(rhs->mac), rhs->channel_index, static_cast<int>(rhs->ont_id), rhs->service_id);
     return false;
@@ -34,8 +36,9 @@ bool getdiff_GSystemSourceGuardCfgVlanAllowed(GSystemSourceGuardCfgVlanAllowed* 
     static constexpr Row<GSystemSourceGuardCfgVlanAllowed> allowed =
         on_off(FIELD(GSystemSourceGuardCfgVlanAllowed, allowed), "ip source-guard ignore-vlan $ID0",
                "no ip source-guard ignore-vlan $ID0");
-    if (nothing_to_emit(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs)) {
         return false;
+    }
     emit_changed(allowed, changed_or_all, lhs, rhs, {View::configure, key, out});
     return false;
 }

@@ -5,8 +5,9 @@ using namespace pondiff;
 /// `print_all` forces nothing at this level: a full dump of two equal system parts has no system commands.
 bool getdiff_GSystemCfg(GSystemCfg* lhs, GSystemCfg* rhs, int* key, List<char>& out)
 {
-    if (nothing_to_emit(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs)) {
         return false;
+    }
     descend(changed_only, getdiff_GSystemNetworkCfg, lhs->network, rhs->network, key, out);
     descend_each(changed_only, getdiff_GSystemUser, lhs->user, rhs->user, of_object, key, out);
     descend(changed_only, getdiff_GSystemServices, lhs->services, rhs->services, key, out);
@@ -17,8 +18,9 @@ bool getdiff_GSystemCfg(GSystemCfg* lhs, GSystemCfg* rhs, int* key, List<char>& 
 /// Routes are not shown here; the auto-configuration server, the authentication and the fan have no commands.
 bool getdiff_GSystemServices(GSystemServices* lhs, GSystemServices* rhs, int* key, List<char>& out)
 {
-    if (nothing_to_emit(lhs, rhs))
+    if (nothing_to_emit(lhs, rhs)) {
         return false;
+    }
     descend(changed_or_all, getdiff_GSystemHttpCfg, lhs->http, rhs->http, key, out);
     descend(changed_or_all, getdiff_GSystemHttpsCfg, lhs->https, rhs->https, key, out);
     descend(changed_or_all, getdiff_GSystemTelnetCfg, lhs->telnet, rhs->telnet, key, out);
