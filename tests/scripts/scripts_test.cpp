@@ -4,15 +4,11 @@
 #include "fuzz/operations.h"
 #include "fuzz/scenario.h"
 #include "pon/command_file_generator.h"
+#include "tests/support/case_files.h"
 #include "tool/json/json.h"
 
-#include <algorithm>
-#include <filesystem>
-#include <fstream>
 #include <gtest/gtest.h>
-#include <iterator>
 #include <memory>
-#include <sstream>
 
 namespace pondiff {
 
@@ -20,61 +16,20 @@ namespace {
 
 const std::filesystem::path folder = SCRIPTS_DIR;
 
-std::string content_of(const std::string& file)
-{
-    std::ifstream stream(folder / file, std::ios::binary);
-    EXPECT_TRUE(stream) << file << " cannot be read";
-    return {std::istreambuf_iterator<char>(stream), {}};
-}
-
-/// What stands between the lines of dashes.
-std::vector<std::string> parts_of(const std::string& content)
-{
-    std::vector<std::string> parts(1);
-    std::istringstream lines(content);
-    for (std::string line; std::getline(lines, line);) {
-        if (line == "----") {
-            parts.emplace_back();
-        } else {
-            parts.back() += line + '\n';
-        }
-    }
-    return parts;
-}
-
 std::unique_ptr<GCfg> begin_with(const fuzz::Scenario& scenario, std::size_t side)
 {
     auto configuration = std::make_unique<GCfg>();
     if (scenario.base.size() == 2) {
-        tool::read_json(content_of(scenario.base[side]), scenario.base[side], *configuration);
+        tool::read_json(case_files::content_of(folder / scenario.base[side]), scenario.base[side], *configuration);
     }
     return configuration;
-}
-
-std::vector<std::string> all_files()
-{
-    std::vector<std::string> files;
-    for (const auto& entry : std::filesystem::directory_iterator(folder)) {
-        if (entry.path().extension() == ".txt") {
-            files.push_back(entry.path().filename().string());
-        }
-    }
-    std::sort(files.begin(), files.end());
-    return files;
-}
-
-std::string name_of(const testing::TestParamInfo<std::string>& info)
-{
-    std::string name = std::filesystem::path(info.param).stem().string();
-    std::replace(name.begin(), name.end(), '-', '_');
-    return name;
 }
 
 class Scripts : public testing::TestWithParam<std::string> {};
 
 TEST_P(Scripts, AreAsWritten)
 {
-    const std::vector<std::string> parts = parts_of(content_of(GetParam()));
+    const std::vector<std::string> parts = case_files::parts_of(case_files::content_of(folder / GetParam()));
     std::vector<std::string> senseless;
     const fuzz::Scenario scenario = fuzz::parse_scenario(parts.front(), senseless);
     ASSERT_EQ(senseless, std::vector<std::string>{}) << "lines that make no sense";
@@ -98,7 +53,7 @@ TEST_P(Scripts, AreAsWritten)
     finalize_diff();
 }
 
-INSTANTIATE_TEST_SUITE_P(Whole, Scripts, testing::ValuesIn(all_files()), name_of);
+INSTANTIATE_TEST_SUITE_P(Whole, Scripts, testing::ValuesIn(case_files::all_in(folder)), case_files::name_of);
 
 } // namespace
 

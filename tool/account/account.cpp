@@ -308,7 +308,7 @@ class Account::Builder {
     void merge_renamed()
     {
         for (Entry& entry : entries_) {
-            const auto& there = entry.there;
+            const std::array<bool, 3>& there = entry.there;
             entry.object.change = !there[running] && there[wanted]   ? ObjectAccount::Change::added
                                   : there[running] && !there[wanted] ? ObjectAccount::Change::removed
                                                                      : ObjectAccount::Change::changed;

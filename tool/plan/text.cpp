@@ -175,7 +175,6 @@ class Writer {
         title("Risks");
         std::map<RiskKind, std::size_t> shown;
         std::map<RiskKind, std::size_t> more;
-        std::vector<std::string> texts;
         for (const Risk& risk : plan_.risks) {
             if (!style_.full && ++shown[risk.kind] > most_lines) {
                 ++more[risk.kind];
@@ -220,30 +219,41 @@ class Writer {
 
     void write_objects()
     {
+        if (!account_.objects().empty()) {
+            title("Changes");
+        }
+        if (style_.full) {
+            for (const ObjectAccount& object : account_.objects()) {
+                write_object(object);
+            }
+        } else {
+            write_folded();
+        }
+    }
+
+    void write_folded()
+    {
         using Objects = std::vector<const ObjectAccount*>;
         std::vector<std::string> order;
         std::map<std::string, Objects> alike;
         for (const ObjectAccount& object : account_.objects()) {
-            Objects& same = alike[signature(object, true)];
-            if (same.empty()) {
+            Objects& group = alike[signature(object, true)];
+            if (group.empty()) {
                 order.push_back(signature(object, true));
             }
-            same.push_back(&object);
-        }
-        if (!order.empty()) {
-            title("Changes");
+            group.push_back(&object);
         }
         std::map<std::string, std::size_t> shown;
         std::map<std::string, Objects> folded;
         for (const std::string& key : order) {
             const Objects& same = alike[key];
             const std::string fields = signature(*same.front(), false);
-            if (!style_.full && ++shown[fields] > most_alike) {
+            if (++shown[fields] > most_alike) {
                 Objects& others = folded[fields];
                 others.insert(others.end(), same.begin(), same.end());
                 continue;
             }
-            const std::size_t count = style_.full || same.size() <= most_alike + 1 ? same.size() : most_alike;
+            const std::size_t count = same.size() <= most_alike + 1 ? same.size() : most_alike;
             for (std::size_t i = 0; i < count; ++i) {
                 write_object(*same[i]);
             }
