@@ -322,6 +322,8 @@ std::vector<std::string> names_of_areas()
         if (!kind.argument) {
             names.emplace_back(kind.name);
         }
+    }
+    for (const AreaKind& kind : area_kinds) {
         for (const std::string& argument : kind.arguments ? kind.arguments() : std::vector<std::string>{}) {
             names.push_back(fmt::format("{}:{}", kind.name, argument));
         }

@@ -27,7 +27,7 @@ Area area_named(const std::string& name);
 /// The names of the areas for a shell to complete, as `completed_by` takes them.
 std::string area_candidates();
 
-/// The names of the areas that need no index of an object, those of the most first.
+/// The names of the areas that need no index of an object, those of several settings first.
 std::vector<std::string> names_of_areas();
 
 /// The blocks of settings that `area_named` knows.

@@ -34,9 +34,11 @@ line that enters the view of a port, an ONT or a profile that ORIG has, and the
 line that declares a terminal VLAN by a name that ORIG has. To enter the view of
 an ONT or a profile that ORIG does not have creates it, so that is a change.
 
-Some fields have no command, or none in the scope asked for. When the script
-changes nothing although the configurations differ, a warning says how many
-fields differ; with --only, how many fields of the area.
+The script is read back before it is printed, as a device that runs ORIG would.
+A message names each field that is not as CFG wants it afterwards; with --only,
+the fields of the area. "pondiff plan" shows all of it in order. A script that
+would set a field to a value that CFG does not want is not printed, unless
+--force asks for it; --all and --verbatim print it.
 
 Values go into the script as they are stored. A warning names each value that no
 script can carry, such as a description with a quote in it, unless ORIG has the
@@ -69,14 +71,17 @@ redirection of a shell.
 Exit status:
   0  there is nothing to do
   1  a script was written
-  2  error; see standard error. With --strict, CFG has a value that no script
-     can carry
+  2  error; see standard error. The script is not written when a text in it is
+     unsafe, when it sets what is not wanted, when it removes more than
+     --max-removals or, with --strict, when CFG has a value that no script can
+     carry or the script does not reach all that is wanted
 
 Examples:
   pondiff diff running.bin wanted.json
   pondiff diff --only ont:1/6 running.bin wanted.json
   pondiff diff --strict --common 1 running.bin wanted.bin
   pondiff diff -o change.cli running.bin - < wanted.json
+  pondiff diff --max-removals 5 --rollback back.cli running.bin wanted.bin
   pondiff diff --all --common 2 running.bin wanted.bin > full.cli)";
 }
 
@@ -241,11 +246,12 @@ std::function<ExitStatus()> setup(CLI::App& command)
     arguments->change.add_options(command);
     command.add_flag("--strict", arguments->strict,
                      "Write no script when CFG has a value that means nothing to\n"
-                     "a device; the exit status is then 2");
+                     "a device, or when the script does not reach all that CFG\n"
+                     "wants");
     command.add_flag("--force", arguments->force,
                      "Write the script even when a text in it has a quote, a\n"
                      "control character or the like, which ends its command or\n"
-                     "hides a line");
+                     "hides a line, or when it sets what is not wanted");
     command.add_flag("--verbatim", arguments->verbatim,
                      "Print the script even when it would change nothing; the\n"
                      "exit status stays 0");

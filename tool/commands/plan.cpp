@@ -37,6 +37,21 @@ before and after, and the line that sets it; and what will not be as wanted:
 
 Long lists are folded; --full unfolds them. Secrets are shown as ***.
 
+With --json, the plan is one object. The file plan.schema.json, which is
+installed in share/pondiff, describes every key:
+
+  format     1
+  verdict    nothing, complete or incomplete
+  summary    counts of lines, objects, fields by class, and risks
+  objects    name, path, change (added, changed, removed), old_name of one that
+             is renamed, detail, and fields: path, running, wanted, after,
+             class, lines, reason, remedy
+  left_over  name and path of objects that are not wanted, or hold an entry that
+             is not wanted, and stay
+  risks      kind, text and lines
+  refused    line, place and reason of lines that a device refuses
+  script     the lines
+
 Areas that --only takes:
 )" + list_of_areas() +
            R"(

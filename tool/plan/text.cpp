@@ -255,7 +255,8 @@ class Writer {
             }
             const std::size_t count = same.size() <= most_alike + 1 ? same.size() : most_alike;
             for (std::size_t i = 0; i < count; ++i) {
-                write_object(*same[i]);
+                const ObjectAccount& object = *same[i];
+                write_object(object);
             }
             if (count < same.size()) {
                 write_more(*same.front(), same.size() - count, "with the same");
