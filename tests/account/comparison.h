@@ -306,7 +306,7 @@ class Comparison {
             std::string identity = std::to_string(slot);
             if (!by_place) {
                 identity = identity_of(field, element);
-                const int bearers = seen[identity]++;
+                const int bearers = ++seen[identity] - 1;
                 shares_names_ = shares_names_ || (bearers != 0 && told == Element::Told::by_name);
                 identity = "[" + identity + "]" + std::to_string(bearers);
             }
