@@ -3,6 +3,7 @@
 #include "tests/account/checks.h"
 #include "tests/language/random_pairs.h"
 #include "tool/account/alike.h"
+#include "tool/script.h"
 
 #include <cstdlib>
 #include <gtest/gtest.h>
@@ -83,6 +84,34 @@ TEST(Account, RarelyFindsThatAScriptSetsWhatIsNotWanted)
         }
     }
     EXPECT_LT(wrong * 100, count) << which;
+}
+
+/// What the way back does not restore is in its account: no field is lost silently.
+TEST(Account, OfTheWayBackHasEveryFieldThatIsNotRestored)
+{
+    RandomPairs pairs(19);
+    std::size_t complete = 0;
+    std::size_t restored = 0;
+    while (complete < number_of_pairs() / 4) {
+        pairs.next();
+        const Account there(pairs.orig(), pairs.cfg(), pairs.script);
+        if (there.verdict() != Account::Verdict::complete) {
+            continue;
+        }
+        ++complete;
+        const auto after_script = std::make_unique<GCfg>(there.replay().after());
+        const ScriptRequest request{pairs.area.empty() ? whole_configuration(pairs.scenario.common)
+                                                       : area_named(pairs.area),
+                                    pairs.scenario.all != 0, pairs.scenario.common};
+        const std::string script = script_of(request, *after_script, pairs.orig());
+        const Account back(*after_script, pairs.orig(), script);
+        ASSERT_EQ(wrong_with(back), "") << "area \"" << pairs.area << "\" of\n"
+                                        << fuzz::print_scenario(pairs.scenario) << pairs.script << "and back:\n"
+                                        << script;
+        const Comparison left({&pairs.orig(), &pairs.orig(), &back.configuration(after)});
+        restored += left.same(running, after) ? 1 : 0;
+    }
+    EXPECT_GT(restored * 10, complete * 6);
 }
 
 } // namespace

@@ -216,7 +216,7 @@ class Account::Builder {
         const std::size_t offset = offset_in(wanted, beside.at[wanted]);
         const auto* const before = reinterpret_cast<const unsigned char*>(account_.configurations_[running]) + offset;
         const bool held = std::equal(before, before + beside.field.width, beside.at[wanted]);
-        return held ? "the free slot held the same value, so the script has no command for it" : std::string_view{};
+        return held ? "its slot held the same value before, so the script has no command for it" : std::string_view{};
     }
 
     void judge(const Beside<3>& beside, Item& item) const
@@ -314,7 +314,7 @@ class Account::Builder {
                                                                      : ObjectAccount::Change::changed;
         }
         for (Entry& entry : entries_) {
-            const bool is_new = !entry.there[running] && entry.there[wanted] && entry.there[after];
+            const bool is_new = !entry.there[running] && entry.there[after];
             if (!is_new || replay().line_creating(offset_in(after, entry.at[after])) != 0) {
                 continue;
             }
@@ -331,9 +331,8 @@ class Account::Builder {
 
     void rename(Entry& old, Entry& entry)
     {
-        entry.object.change = ObjectAccount::Change::changed;
         entry.object.old_name = old.object.name;
-        old.object.items.clear();
+        entry.object.change = entry.there[wanted] ? ObjectAccount::Change::changed : ObjectAccount::Change::removed;
         auto& items = entry.object.items;
         const unsigned char* const old_at = old.at[running];
         const unsigned char* const new_at = entry.at[after];
@@ -341,12 +340,36 @@ class Account::Builder {
             item.there[running] = true;
             item.at[running] = old_at + (item.at[after] - new_at);
         }
-        const auto was_so = [this](const Item& item) {
-            return item.fate == Fate::carried &&
-                   means_the_same(*item.field, item.at[running], *account_.configurations_[running], item.at[wanted],
-                                  *account_.configurations_[wanted]);
-        };
-        items.erase(std::remove_if(items.begin(), items.end(), was_so), items.end());
+        if (entry.there[wanted]) {
+            const auto was_so = [this](const Item& item) {
+                return item.fate == Fate::carried &&
+                       means_the_same(*item.field, item.at[running], *account_.configurations_[running],
+                                      item.at[wanted], *account_.configurations_[wanted]);
+            };
+            items.erase(std::remove_if(items.begin(), items.end(), was_so), items.end());
+        } else {
+            take_emptied(old, entry);
+        }
+        old.object.items.clear();
+    }
+
+    /// What an object has lost that is still there under another name, though it is not wanted.
+    void take_emptied(Entry& old, Entry& entry)
+    {
+        auto& items = entry.object.items;
+        for (Item& item : old.object.items) {
+            const bool is_known = std::any_of(items.begin(), items.end(), [&item](const Item& other) {
+                return other.at[running] == item.at[running];
+            });
+            if (is_known) {
+                continue;
+            }
+            item.there[after] = true;
+            item.at[after] = entry.at[after] + (item.at[running] - old.at[running]);
+            const LineNumbers lines = replay().lines_setting(offset_in(after, item.at[after]));
+            item.lines = lines.empty() ? item.lines : lines;
+            items.push_back(std::move(item));
+        }
     }
 
     using Step = Path::Step;

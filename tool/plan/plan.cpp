@@ -86,15 +86,16 @@ std::string Plan::remedy(const Item& item) const
     if (found != remedies.end()) {
         return found->second;
     }
+    constexpr const char* in_its_view = "give the command by hand, in the view that knows it";
     switch (item.fate) {
     case Fate::no_command:
         return "set it by hand: no command";
     case Fate::not_said:
         return "set it by hand";
     case Fate::refused:
-        return "give the command by hand, in the view that knows it";
+        return in_its_view;
     case Fate::left_over:
-        return "remove it by hand";
+        return item.reason.empty() ? "remove it by hand" : in_its_view;
     case Fate::different:
     case Fate::disturbed:
         return "correct the line, or set it by hand afterwards";

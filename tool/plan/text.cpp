@@ -114,16 +114,15 @@ class Writer {
 
     std::vector<std::string> counts_of_objects() const
     {
-        using Change = ObjectAccount::Change;
         std::vector<const Field*> kinds;
-        std::map<const Field*, std::map<Change, std::size_t>> numbers;
-        std::map<Change, std::size_t> totals;
+        std::map<const Field*, Counts> numbers;
+        Counts totals;
         for (const ObjectAccount& object : account_.objects()) {
             if (numbers.count(object.array) == 0) {
                 kinds.push_back(object.array);
             }
-            ++numbers[object.array][object.change];
-            ++totals[object.change];
+            ++numbers[object.array][word_of(object)];
+            ++totals[word_of(object)];
         }
         std::vector<std::string> counts;
         if (kinds.size() > most_kinds) {
@@ -136,14 +135,19 @@ class Writer {
         return counts;
     }
 
-    static void add_counts(std::vector<std::string>& counts,
-                           const std::map<ObjectAccount::Change, std::size_t>& numbers, std::string_view plural)
+    using Counts = std::map<std::string_view, std::size_t>;
+
+    static void add_counts(std::vector<std::string>& counts, const Counts& numbers, std::string_view plural)
     {
         bool first = true;
-        for (const auto& [change, count] : numbers) {
-            counts.push_back(
-                fmt::format("{} {}", first ? name_of_kind(count, plural) : std::to_string(count), word_of(change)));
-            first = false;
+        for (const std::string_view word : {"changed", "added", "removed", "left over"}) {
+            const auto found = numbers.find(word);
+            if (found != numbers.end()) {
+                const std::size_t count = found->second;
+                counts.push_back(
+                    fmt::format("{} {}", first ? name_of_kind(count, plural) : std::to_string(count), word));
+                first = false;
+            }
         }
     }
 
@@ -152,9 +156,12 @@ class Writer {
         return count == 1 && plural == "parts of the settings" ? "1 part of the settings" : counted(count, plural);
     }
 
-    static const char* word_of(ObjectAccount::Change change)
+    static const char* word_of(const ObjectAccount& object)
     {
-        switch (change) {
+        if (is_left_over(object)) {
+            return "left over";
+        }
+        switch (object.change) {
         case ObjectAccount::Change::added:
             return "added";
         case ObjectAccount::Change::removed:
@@ -163,6 +170,15 @@ class Writer {
             break;
         }
         return "changed";
+    }
+
+    /// Whether the object as a whole is not wanted and still there.
+    static bool is_left_over(const ObjectAccount& object)
+    {
+        return object.array != nullptr &&
+               std::any_of(object.items.begin(), object.items.end(), [&object](const Item& item) {
+                   return item.fate == Fate::left_over && item.field == object.array->record->existence_member;
+               });
     }
 
     // ---------------------------------------------------------------------------------------------------- the risks
@@ -206,8 +222,8 @@ class Writer {
     /// What objects that are folded have in common.
     std::string signature(const ObjectAccount& object, bool values) const
     {
-        std::string text = fmt::format("{}{}{}", fmt::ptr(object.array), word_of(object.change),
-                                       object.array == nullptr ? object.path : "");
+        std::string text =
+            fmt::format("{}{}{}", fmt::ptr(object.array), word_of(object), object.array == nullptr ? object.path : "");
         for (const Item& item : object.items) {
             text += fmt::format("\n{}:{}", relative(object, item), name_of(item.fate));
             if (values) {
@@ -282,9 +298,10 @@ class Writer {
         }
         head = colored(head, bold);
         if (!object.old_name.empty()) {
-            head += fmt::format(", renamed, was {}", visible(object.old_name));
+            head += fmt::format(", renamed, was {}{}", visible(object.old_name),
+                                is_left_over(object) ? ", not wanted" : "");
         } else if (object.array != nullptr) {
-            head += object.left_over ? ", not wanted" : fmt::format(", {}", word_of(object.change));
+            head += is_left_over(object) ? ", not wanted" : fmt::format(", {}", word_of(object));
         }
         line("  " + head);
         if (is_gone(object)) {
@@ -356,7 +373,7 @@ class Writer {
         const std::string before = value(item, running);
         const std::string wish = value(item, wanted);
         if (!item.there[running]) {
-            return wish;
+            return item.there[wanted] ? wish : "not wanted";
         }
         return item.there[wanted] ? fmt::format("{} -> {}", before, wish) : fmt::format("{} -> not there", before);
     }
