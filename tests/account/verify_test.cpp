@@ -163,7 +163,7 @@ std::optional<Mutant> with_an_exit_doubled(const Script& script, fuzz::Random& r
     return mutant;
 }
 
-class Verify : public testing::Test {
+class ScriptErrors : public testing::Test {
   protected:
     /// The next script that reaches what is wanted, and does something.
     Script next()
@@ -225,22 +225,22 @@ class Verify : public testing::Test {
     std::string excuses;
 };
 
-TEST_F(Verify, NamesWhatALostLineCarried)
+TEST_F(ScriptErrors, ShowWhatALostLineCarried)
 {
     mutate(without_a_line, 300);
 }
 
-TEST_F(Verify, NamesWhatALineWithAnotherDigitCarried)
+TEST_F(ScriptErrors, ShowWhatALineWithAnotherDigitCarried)
 {
     mutate(with_another_digit, 300);
 }
 
-TEST_F(Verify, NamesWhatALineInAnotherViewCarried)
+TEST_F(ScriptErrors, ShowWhatALineInAnotherViewCarried)
 {
     mutate(with_a_line_in_another_view, 300);
 }
 
-TEST_F(Verify, NamesWhatFollowsADoubledExit)
+TEST_F(ScriptErrors, ShowWhatFollowsADoubledExit)
 {
     mutate(with_an_exit_doubled, 100);
 }
