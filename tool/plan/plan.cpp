@@ -1,24 +1,25 @@
 #include "tool/plan/plan.h"
 
+#include "tool/account/alike.h"
+
 #include <algorithm>
+#include <array>
 #include <fmt/format.h>
 #include <memory>
 #include <set>
+#include <string_view>
+#include <unordered_set>
 
 namespace pondiff::tool {
 
 namespace {
 
-/// The paths of what an account carries.
-std::set<std::string> carried_by(const Account& account)
+/// The paths of what an account does not carry.
+std::set<std::string> not_carried_by(const Account& account)
 {
     std::set<std::string> paths;
-    for (const ObjectAccount& object : account.objects()) {
-        for (const Item& item : object.items) {
-            if (item.fate == Fate::carried) {
-                paths.insert(item.path);
-            }
-        }
+    for (const Item* const item : items_with(account, fates_not_carried)) {
+        paths.insert(item->path);
     }
     return paths;
 }
@@ -26,15 +27,10 @@ std::set<std::string> carried_by(const Account& account)
 class Remedies {
   public:
     Remedies(Plan& plan, const GCfg& running, const GCfg& wanted)
-        : plan_(plan), running_(std::make_unique<GCfg>(running)), wanted_(std::make_unique<GCfg>(wanted))
+        : plan_(plan), running_(std::make_unique<GCfg>(running)), wanted_(std::make_unique<GCfg>(wanted)),
+          open_(items_with(plan.account, std::array{Fate::not_said})),
+          known_lines_(plan.account.replay().lines().begin(), plan.account.replay().lines().end())
     {
-        for (const ObjectAccount& object : plan.account.objects()) {
-            for (const Item& item : object.items) {
-                if (item.fate == Fate::not_said) {
-                    open_.push_back(&item);
-                }
-            }
-        }
     }
 
     bool any_open() const { return !open_.empty(); }
@@ -61,21 +57,37 @@ class Remedies {
     void take(GCfg& device, const ScriptRequest& request, const std::string& remedy)
     {
         const std::string script = script_of(request, device, *wanted_);
-        const std::set<std::string> carried = carried_by(Account(device, *wanted_, script));
-        const auto done = [&](const Item* item) {
-            const bool helps = carried.count(item->path) != 0;
-            if (helps) {
+        if (!has_other_lines(script)) {
+            return;
+        }
+        const std::set<std::string> missed = not_carried_by(Account(device, *wanted_, script));
+        const auto helps = [&](const Item* item) { return missed.count(item->path) == 0; };
+        for (const Item* const item : open_) {
+            if (helps(item)) {
                 plan_.remedies.emplace(item->path, remedy);
             }
-            return helps;
-        };
-        open_.erase(std::remove_if(open_.begin(), open_.end(), done), open_.end());
+        }
+        open_.erase(std::remove_if(open_.begin(), open_.end(), helps), open_.end());
+    }
+
+    /// Whether a script has a line that the plan's script has not.
+    bool has_other_lines(std::string_view script) const
+    {
+        while (!script.empty()) {
+            const std::size_t end = script.find('\n');
+            if (known_lines_.count(script.substr(0, end)) == 0) {
+                return true;
+            }
+            script.remove_prefix(end == script.npos ? script.size() : end + 1);
+        }
+        return false;
     }
 
     Plan& plan_;
     std::unique_ptr<GCfg> running_;
     std::unique_ptr<GCfg> wanted_;
-    std::vector<const Item*> open_;
+    std::vector<const Item*> open_; ///< what nothing sets
+    std::unordered_set<std::string_view> known_lines_;
 };
 
 } // namespace

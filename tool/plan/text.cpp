@@ -371,7 +371,7 @@ class Writer {
             return "*** (changed)";
         }
         const std::string before = value(item, running);
-        const std::string wish = value(item, wanted);
+        std::string wish = value(item, wanted);
         if (!item.there[running]) {
             return item.there[wanted] ? wish : "not wanted";
         }
