@@ -284,12 +284,15 @@ class Account::Builder {
         entry.object.items.push_back(std::move(item));
     }
 
-    /// The object of a field.
+    /// The object of a field. The fields of an object follow one another.
     Entry& entry_of(const Beside<3>& beside)
     {
-        Path path = object_path(beside.path);
-        const std::size_t last = beside.there[after] ? after : beside.there[wanted] ? wanted : running;
-        const auto* const configuration = reinterpret_cast<const unsigned char*>(account_.configurations_[last]);
+        const std::size_t in = beside.counted_in[object_length(beside.path) - 1];
+        if (last_ < entries_.size() && in == last_in_ && begins_with(beside.path, entries_[last_].path)) {
+            return entries_[last_];
+        }
+        const Path path = object_path(beside.path);
+        const auto* const configuration = reinterpret_cast<const unsigned char*>(account_.configurations_[in]);
         const std::string name = object_name(path, configuration);
         const auto [known, is_new] = numbers_.try_emplace({path.text(), name}, entries_.size());
         if (is_new) {
@@ -301,7 +304,16 @@ class Account::Builder {
             entry.object.path = path.text();
             entries_.push_back(std::move(entry));
         }
-        return entries_[known->second];
+        last_ = known->second;
+        last_in_ = in;
+        return entries_[last_];
+    }
+
+    static bool begins_with(const Path& path, const Path& object)
+    {
+        const auto same = [](const Step& a, const Step& b) { return a.field == b.field && a.index == b.index; };
+        return object_length(path) == object.steps().size() &&
+               std::equal(object.steps().begin(), object.steps().end(), path.steps().begin(), same);
     }
 
     /// An object that is there no more and one that is new are one, renamed, where the device has moved nothing.
@@ -377,6 +389,8 @@ class Account::Builder {
     Account& account_;
     std::vector<Entry> entries_;
     std::map<std::pair<std::string, std::string>, std::size_t> numbers_;
+    std::size_t last_ = SIZE_MAX; ///< the entry of the field before
+    std::size_t last_in_ = 0;
 };
 
 Account::Account(const GCfg& running, const GCfg& wanted, std::string_view script,

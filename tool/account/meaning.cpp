@@ -145,7 +145,7 @@ class SideBySide {
             if (field.record == nullptr) {
                 compare_leaves(field, inner, there);
             } else if (!field.array) {
-                step(field, 0, [&] { compare(*field.record, inner, there, blank + field.offset); });
+                step(field, 0, N - 1, [&] { compare(*field.record, inner, there, blank + field.offset); });
             } else if (is_told_by_number(field)) {
                 compare_numbered(field, inner, there, blank + field.offset);
             } else {
@@ -170,12 +170,14 @@ class SideBySide {
     }
 
     template <class Do>
-    void step(const Field& field, std::size_t index, const Do& inside)
+    void step(const Field& field, std::size_t index, std::size_t counted_in, const Do& inside)
     {
         path_.push(field, index);
+        counted_in_.push_back(counted_in);
         ++steps_;
         inside();
         --steps_;
+        counted_in_.pop_back();
         path_.pop();
     }
 
@@ -186,6 +188,7 @@ class SideBySide {
         Places element;
         There element_there = there;
         std::size_t index = 0;
+        std::size_t counted_in = 0;
         for (std::size_t i = 0; i < N; ++i) {
             const bool in_slot = slots[i] >= 0;
             element[i] = first[i] + (in_slot ? slots[i] : 0) * static_cast<std::ptrdiff_t>(array.width);
@@ -194,6 +197,7 @@ class SideBySide {
                 element[i] = blank;
             } else {
                 index = static_cast<std::size_t>(slots[i]);
+                counted_in = i;
             }
         }
         if (std::none_of(element_there.begin(), element_there.end(), [](bool one) { return one; })) {
@@ -201,7 +205,7 @@ class SideBySide {
         }
         const std::size_t outer = std::exchange(object_, steps_ + 1);
         const Places outer_element = std::exchange(element_, element);
-        step(array, index, [&] { compare(*array.record, element, element_there, blank); });
+        step(array, index, counted_in, [&] { compare(*array.record, element, element_there, blank); });
         object_ = outer;
         element_ = outer_element;
     }
@@ -260,7 +264,7 @@ class SideBySide {
             }
             if (!mean_the_same(field, at, there)) {
                 path_.push(field, i);
-                visit_({field, at, there, element_, path_, object_});
+                visit_({field, at, there, element_, path_, counted_in_, object_});
                 path_.pop();
             }
         }
@@ -280,6 +284,7 @@ class SideBySide {
     const Visit& visit_;
     bool refer_alike_ = false; ///< the same number refers to the same name in all of them
     Path path_;
+    std::vector<std::size_t> counted_in_;
     std::size_t steps_ = 0;
     std::size_t object_ = 0;
     Places element_{};

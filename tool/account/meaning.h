@@ -14,6 +14,7 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace pondiff::tool {
 
@@ -41,6 +42,7 @@ struct Beside {
     std::array<bool, N> there;                   ///< whether the object that it belongs to is there
     std::array<const unsigned char*, N> element; ///< that object or entry in each; the configuration where it is none
     const Path& path;                            ///< in the last configuration that has the object
+    const std::vector<std::size_t>& counted_in;  ///< the configuration that each index of the path is of
     std::size_t object; ///< how many steps of the path lead to the object or entry that it belongs to
 };
 

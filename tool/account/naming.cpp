@@ -103,18 +103,24 @@ Path path_at(std::size_t offset)
     return path;
 }
 
-Path object_path(const Path& field)
+std::size_t object_length(const Path& field)
 {
     constexpr std::size_t deepest_part = 3; // "system.services.ssh"
     const auto& steps = field.steps();
     const auto object = std::find_if(steps.begin(), steps.end(), is_object);
+    if (object != steps.end()) {
+        return static_cast<std::size_t>(object - steps.begin()) + 1;
+    }
     const auto not_a_part = [](const Path::Step& step) { return step.field->record == nullptr || step.field->array; };
     const auto part = std::find_if(steps.begin(), steps.end(), not_a_part) - steps.begin();
-    const std::size_t length = object != steps.end() ? static_cast<std::size_t>(object - steps.begin()) + 1
-                                                     : std::min(deepest_part, static_cast<std::size_t>(part));
+    return std::min(deepest_part, static_cast<std::size_t>(part));
+}
+
+Path object_path(const Path& field)
+{
     Path path;
-    for (std::size_t i = 0; i < length; ++i) {
-        path.push(*steps[i].field, steps[i].index);
+    for (std::size_t i = 0; i < object_length(field); ++i) {
+        path.push(*field.steps()[i].field, field.steps()[i].index);
     }
     return path;
 }

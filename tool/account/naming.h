@@ -11,6 +11,9 @@ namespace pondiff::tool {
 /// The field, and the element of it, at an offset of the configuration.
 Path path_at(std::size_t offset);
 
+/// How many steps of a path lead to the object of `object_path`.
+std::size_t object_length(const Path& field);
+
 /// The object that the field at the end of a path belongs to: what has a view of its own, or is removed by its name;
 /// else the part of the configuration: "system.services.ssh".
 Path object_path(const Path& field);

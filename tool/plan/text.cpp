@@ -329,6 +329,7 @@ class Writer {
     std::vector<Alike> fields_of(const ObjectAccount& object) const
     {
         std::vector<const Item*> items;
+        items.reserve(object.items.size());
         for (const Item& item : object.items) {
             const bool is_name = item.field == object_name_field(object) ||
                                  (object.array != nullptr && item.field == object.array->record->existence_member);
@@ -345,6 +346,7 @@ class Writer {
             return fold(account_, items);
         }
         std::vector<Alike> all;
+        all.reserve(items.size());
         for (const Item* const item : items) {
             all.push_back({item});
         }
