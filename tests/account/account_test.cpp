@@ -73,7 +73,7 @@ TEST(Account, RarelyFindsThatAScriptSetsWhatIsNotWanted)
     while (count < most) {
         pairs.next();
         const Account account(pairs.orig(), pairs.cfg(), pairs.script);
-        const Comparison comparison({&pairs.orig(), &pairs.cfg(), &account.configuration(after)});
+        const Comparison comparison({&pairs.orig(), &account.configuration(after), &pairs.cfg()});
         if (pairs.scenario.all != 0 || comparison.shares_names()) {
             continue;
         }
@@ -108,7 +108,7 @@ TEST(Account, OfTheWayBackHasEveryFieldThatIsNotRestored)
         ASSERT_EQ(wrong_with(back), "") << "area \"" << pairs.area << "\" of\n"
                                         << fuzz::print_scenario(pairs.scenario) << pairs.script << "and back:\n"
                                         << script;
-        const Comparison left({&pairs.orig(), &pairs.orig(), &back.configuration(after)});
+        const Comparison left({&pairs.orig(), &back.configuration(after), &pairs.orig()});
         restored += left.same(running, after) ? 1 : 0;
     }
     EXPECT_GT(restored * 10, complete * 6);

@@ -60,14 +60,14 @@ inline std::string wrong_class(const Item& item, const Meant& meant)
 /// A path, and the last configuration that it is of.
 inline std::string standing(const std::string& path, const std::array<bool, 3>& there)
 {
-    return path + (there[after] ? "" : there[wanted] ? " wanted" : " running");
+    return path + (there[wanted] ? "" : there[after] ? " after" : " running");
 }
 
 /// What is wrong with an account, in words; empty when nothing is.
 inline std::string wrong_with(const Account& account)
 {
     const Comparison comparison(
-        {&account.configuration(running), &account.configuration(wanted), &account.configuration(after)},
+        {&account.configuration(running), &account.configuration(after), &account.configuration(wanted)},
         renamed_by(account));
     std::map<std::string, const Item*> items;
     std::string wrong;

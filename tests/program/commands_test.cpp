@@ -338,17 +338,16 @@ commit
     EXPECT_THAT(outcome.out, StartsWith(blocks.front()));
     EXPECT_EQ(besides_not_applied(outcome.err), "");
     EXPECT_THAT(fields_not_applied(outcome.err),
-                ElementsAre("system.network.ACSIp", "system.services.snmp.alias.1.name",
+                ElementsAre("system.network.ACSIp", "system.user.2.group.0.exist", "system.user.2.group.0.name",
+                            "system.services.snmp.alias.1.name", "system.services.snmp.alias.1.upDownTrapEnable",
                             "system.services.snmp.alias.1.upDownTrapEnable",
-                            "system.services.snmp.alias.2.upDownTrapEnable",
-                            "pon.network.terminal_vlan.0.tag.ethertype", "pon.network.terminal_vlan.2.tag.ethertype",
+                            "pon.network.terminal_vlan.0.tag.ethertype", "pon.network.terminal_vlan.3.tag.ethertype",
                             "pon.profiles_olt.address_table.0.svlan_config.0.exist",
                             "pon.profiles_olt.address_table.0.svlan_config.0.svlan",
                             "pon.profiles_olt.address_table.0.svlan_config.0.use_svlan",
-                            "pon.profiles_olt.address_table.0.svlan_config.2.use_svlan",
+                            "pon.profiles_olt.address_table.0.svlan_config.0.use_svlan",
                             "pon.profiles_ont.cross_connect.2.model", "pon.ont.71.enabled", "pon.ont.71.ber_interval",
-                            "pon.ont.71.tunnel.0.uvid (and 15 more like it)", "pon.ont.71.ems_profile_index",
-                            "system.user.1.group.0.exist", "system.user.1.group.0.name"));
+                            "pon.ont.71.tunnel.0.uvid (and 15 more like it)", "pon.ont.71.ems_profile_index"));
     EXPECT_EQ(outcome.status, 1);
 }
 

@@ -395,7 +395,7 @@ class Account::Builder {
 
 Account::Account(const GCfg& running, const GCfg& wanted, std::string_view script,
                  const std::function<void(const Line&, const GCfg&)>& watch)
-    : configurations_{&running, &wanted, nullptr}, replay_(running, script, watch)
+    : configurations_{&running, nullptr, &wanted}, replay_(running, script, watch)
 {
     configurations_[after] = &replay_.after();
     Builder(*this).build();

@@ -37,8 +37,8 @@ constexpr std::array<Fate, 6> fates_not_carried = {Fate::no_command, Fate::not_s
 /// "carried", "no_command" and so on.
 const char* name_of(Fate fate);
 
-/// The three configurations of an account, as indexes.
-enum At : std::size_t { running, wanted, after };
+/// The three configurations of an account, as indexes. The wanted one is the last: paths are those of its document.
+enum At : std::size_t { running, after, wanted };
 
 /// A field in the account.
 struct Item {

@@ -95,7 +95,7 @@ class Remedies {
 std::string Plan::remedy(const Item& item) const
 {
     const auto found = remedies.find(item.path);
-    if (found != remedies.end()) {
+    if (item.fate == Fate::not_said && found != remedies.end()) {
         return found->second;
     }
     constexpr const char* in_its_view = "give the command by hand, in the view that knows it";
