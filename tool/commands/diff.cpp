@@ -178,6 +178,7 @@ void check_removals(const Account& account, int most)
         return;
     }
     std::vector<std::string> counts;
+    counts.reserve(removed.size());
     for (const auto& [kind, count] : removed) {
         counts.push_back(fmt::format("{}: {}", kind, count));
     }
