@@ -71,4 +71,16 @@ std::string visible(std::string_view text)
     return result;
 }
 
+std::string shortened(std::string text, std::size_t longest)
+{
+    if (text.size() <= longest) {
+        return text;
+    }
+    const auto continues = [&text](std::size_t at) { return (static_cast<unsigned char>(text[at]) & 0xC0U) == 0x80; };
+    while (longest > 0 && continues(longest)) {
+        --longest;
+    }
+    return text.substr(0, longest) + "...";
+}
+
 } // namespace pondiff::tool

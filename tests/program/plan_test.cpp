@@ -60,7 +60,8 @@ TEST_F(Plan, SecretsAreMasked)
 TEST_F(Plan, SecretsAreMaskedInRefusedLines)
 {
     write("change.cli", "user admin crypted_password \"$6$new$hash\"\nconfigure terminal\n"
-                        "user admin crypted_password \"$6$new$hash\n");
+                        "user admin crypted_password \"$6$new$hash\n"
+                        "user admin crypted_password \"$6$new$hash\" more\nuser admin passwrd $6$new$hash\n");
     for (const Arguments& how : {Arguments{"plan"}, Arguments{"plan", "--json"}, Arguments{"verify"}}) {
         Arguments arguments = how;
         arguments.insert(arguments.end(), {"running.json", "wanted.json", "change.cli"});
@@ -245,6 +246,28 @@ TEST_F(DiffReadsBack, WhatTheWayBackDoesNotRestoreIsNamed)
               "script does not remove it\n"
               "pondiff: not restored: system.services.ssh.allow.0.mask: not wanted, stays 24; the script "
               "does not remove it\n");
+    EXPECT_EQ(outcome.status, 1);
+}
+
+TEST_F(DiffReadsBack, ScriptAndWayBackGoToDifferentPlaces)
+{
+    for (const Arguments& where : {Arguments{"--rollback", "x", "-o", "x"}, Arguments{"--rollback", "-"}}) {
+        Arguments arguments{"diff", "running.json", "wanted.json"};
+        arguments.insert(arguments.end(), where.begin(), where.end());
+        const Outcome outcome = run(arguments);
+        EXPECT_EQ(outcome.out, "");
+        EXPECT_THAT(outcome.err,
+                    StartsWith("pondiff: --rollback " + where[1] + ": this is where the script goes, too\n"));
+        EXPECT_EQ(outcome.status, 2);
+    }
+}
+
+TEST_F(Plan, OfALineThatIsTakenBackHasItsRisks)
+{
+    write("running.json", R"({"system": {"services": {"ssh": {"enabled": true}}}})");
+    write("change.cli", "configure terminal\nno ip ssh enable\nip ssh enable\nexit\ncommit\n");
+    const Outcome outcome = run({"plan", "running.json", "running.json", "change.cli"});
+    EXPECT_THAT(outcome.out, StartsWith("complete: nothing changed; 5 lines; 0 fields carried; 1 risk\n"));
     EXPECT_EQ(outcome.status, 1);
 }
 

@@ -60,4 +60,12 @@ TEST(Visible, BytesThatAreNoUtf8AreWrittenOut)
     expect_written_out("a\xE4\xB8", "a\\xE4\\xB8");                 // cut
 }
 
+TEST(Visible, CutBetweenCharacters)
+{
+    EXPECT_EQ(pondiff::tool::shortened("abc", 3), "abc");
+    EXPECT_EQ(pondiff::tool::shortened("abcd", 3), "abc...");
+    EXPECT_EQ(pondiff::tool::shortened("ab\u00E9d", 3), "ab...");
+    EXPECT_EQ(pondiff::tool::shortened("ab\u00E9d", 4), "ab\u00E9...");
+}
+
 } // namespace

@@ -79,8 +79,7 @@ std::string shown_value(const Account& account, const Item& item, At which, bool
     if (item.field->form == Form::secret && !show_secrets) {
         return item.there[which] ? "***" : "";
     }
-    const std::string text = visible(account.value(item, which));
-    return text.size() <= longest ? text : text.substr(0, longest) + "...";
+    return shortened(visible(account.value(item, which)), longest);
 }
 
 } // namespace pondiff::tool

@@ -88,13 +88,9 @@ void Replay::add_refusal(const Line& line)
         if (match.pattern->element >= 0) {
             refusal.element = match.words[static_cast<std::size_t>(match.pattern->element)].text;
         }
-        for (const Target& target : match.pattern->targets) {
-            if (target.field->form == Form::secret && target.word >= 0) {
-                mask(line, match.words[static_cast<std::size_t>(target.word)].text);
-            }
-        }
         break;
     }
+    mask_refused(line);
     refusals_.push_back(std::move(refusal));
 }
 
@@ -104,6 +100,19 @@ void Replay::mask(const Line& line, std::string_view secret)
     const std::size_t at = secret.empty() ? text.npos : text.rfind(secret);
     if (at != text.npos) {
         masked_[static_cast<std::uint32_t>(line.number)] = text.replace(at, secret.size(), "***");
+    }
+}
+
+/// A refused line may be any text: what follows a word that announces a secret is taken for one.
+void Replay::mask_refused(const Line& line)
+{
+    for (const std::string_view word : {"pass", "communit", "secret"}) {
+        const std::size_t at = line.text.find(word);
+        const std::size_t end = at != line.text.npos ? line.text.find_first_of(" \t", at) : at;
+        if (end != line.text.npos) {
+            masked_[static_cast<std::uint32_t>(line.number)] = std::string(line.text.substr(0, end)) + " ***";
+            return;
+        }
     }
 }
 

@@ -72,6 +72,7 @@ class Replay {
     void add(const Line& line);
     void add_refusal(const Line& line);
     void mask(const Line& line, std::string_view secret);
+    void mask_refused(const Line& line);
     static std::uint32_t last_over(const Events& events, std::size_t offset);
 
     std::unique_ptr<GCfg> after_;

@@ -85,6 +85,8 @@ Examples:
   pondiff diff --all --common 2 running.bin wanted.bin > full.cli)";
 }
 
+constexpr int any_number = -1;
+
 struct Arguments {
     Change change;
     std::string output = standard_stream;
@@ -93,7 +95,7 @@ struct Arguments {
     bool force = false;
     bool verbatim = false;
     std::string rollback;
-    int max_removals = -1; ///< any number
+    int max_removals = any_number;
 
     /// Whether the script is not meant to lead from one configuration to the other.
     bool is_dump() const { return all || verbatim; }
@@ -167,8 +169,8 @@ void check_removals(const Account& account, int most)
     std::map<std::string_view, std::size_t> removed;
     std::size_t all = 0;
     for (const ObjectAccount& object : account.objects()) {
-        const bool by_script =
-            std::any_of(object.items.begin(), object.items.end(), [](const Item& item) { return !item.lines.empty(); });
+        const bool by_script = std::any_of(object.items.begin(), object.items.end(),
+                                           [](const Item& item) { return item.fate == Fate::carried; });
         if (object.array != nullptr && object.change == ObjectAccount::Change::removed && by_script) {
             ++removed[object.array->plural];
             ++all;
@@ -203,7 +205,7 @@ void check_outcome(const Account& account, const Arguments& arguments)
     if (account.sets_wrongly() && !arguments.force) {
         throw Error("no script is written: it would set fields to values that are not wanted; --force writes it");
     }
-    if (arguments.max_removals >= 0) {
+    if (arguments.max_removals != any_number) {
         check_removals(account, arguments.max_removals);
     }
 }
@@ -271,6 +273,12 @@ std::function<ExitStatus()> setup(CLI::App& command)
         ->option_text("FILE");
     command.footer(details());
     return [arguments] {
+        if (arguments->rollback == arguments->output) {
+            throw UsageError(fmt::format("--rollback {}: this is where the script goes, too", arguments->rollback));
+        }
+        if (arguments->max_removals < any_number) {
+            throw UsageError(fmt::format("--max-removals {}: expected 0 or more", arguments->max_removals));
+        }
         arguments->change.input.check({arguments->change.running, arguments->change.wanted});
         return run(*arguments);
     };

@@ -16,7 +16,7 @@ constexpr std::size_t most_alike = 3;   ///< objects with the same changes that 
 constexpr std::size_t most_fields = 24; ///< of an object
 constexpr std::size_t most_kinds = 4;   ///< of objects that are counted apart
 constexpr std::size_t most_lines = 10;  ///< of a list
-constexpr std::size_t longest_value = 60;
+constexpr std::size_t longest_line = 60;
 constexpr std::size_t widest_name = 32;
 
 const char* title_of(Fate fate)
@@ -47,11 +47,6 @@ std::string counted(std::size_t count, std::string_view plural)
         plural.remove_suffix(1);
     }
     return fmt::format("{} {}", count, plural);
-}
-
-std::string cut(const std::string& text, bool full)
-{
-    return full || text.size() <= longest_value ? text : text.substr(0, longest_value) + "...";
 }
 
 class Writer {
@@ -94,7 +89,8 @@ class Writer {
         for (const Fate fate : fates_not_carried) {
             not_carried += account_.count(fate);
         }
-        if (verdict == Account::Verdict::nothing && account_.replay().refusals().empty()) {
+        const bool is_idle = account_.replay().changes_nothing() && plan_.risks.empty();
+        if (verdict == Account::Verdict::nothing && is_idle) {
             line(colored("nothing to do: the device holds what is wanted", green));
             return;
         }
@@ -216,7 +212,7 @@ class Writer {
     {
         const std::string text =
             style_.secrets ? std::string(account_.replay().lines()[number - 1]) : account_.replay().masked(number);
-        return cut(visible(text), style_.full);
+        return style_.full ? visible(text) : shortened(visible(text), longest_line);
     }
 
     /// What objects that are folded have in common.
