@@ -22,8 +22,8 @@ struct view_state {
     int key[10];      ///< object identifiers; only key[0] tells two objects of one view apart
 };
 
-/// The view that the device is in after it has run the script emitted so far. Only `goto_view_buf` changes it; a
-/// session opens at "root".
+/// The view that the device is in after it has run the script emitted so far. Navigation changes it, in whatever
+/// operation; a session opens at "root".
 extern view_state current_view;
 
 /// Writes the commands that lead from `current_view` to `view` and the object `key`, and moves `current_view` there.

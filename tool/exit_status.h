@@ -5,9 +5,9 @@ namespace pondiff::tool {
 
 /// Exit statuses of the program, as users of diff(1) expect them.
 enum class ExitStatus {
-    success = 0,        ///< diff: there is nothing to do
-    script_written = 1, ///< diff: a script was written
-    found = 1,          ///< check: there are findings
+    success = 0,        ///< diff, plan: there is nothing to do
+    script_written = 1, ///< diff, plan: there is a script
+    found = 1,          ///< check, verify: there are findings
     refused = 1,        ///< apply: lines were refused
     error = 2,          ///< the command failed
 };

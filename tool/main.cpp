@@ -51,14 +51,14 @@ replaced. Devices, pipes and open files, such as /dev/stdout, are written to. An
 output file must not also be an input.
 
 Exit status:
-  0  success; of "pondiff diff": there is nothing to do; of "pondiff check":
-     nothing was found; of "pondiff apply": every line was accepted
-  1  of "pondiff diff": a script was written; of "pondiff check": something was
-     found; of "pondiff apply": lines were refused
+  0  success: there is nothing to do, nothing was found, every line was accepted
+  1  there is something to do or something was found; the help of each command
+     says what
   2  error; see standard error
 
 Examples:
   pondiff diff running.bin wanted.json
+  pondiff plan running.bin wanted.json
   pondiff check wanted.json
   pondiff show running.bin > running.json
   pondiff pack running.json -o running.bin

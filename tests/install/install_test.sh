@@ -17,7 +17,7 @@ fail() {
 
 install() {
     cmake --install "$build" --prefix "$work/first" >"$work/install.log"
-    # Nothing may hang on the folder that it was installed to.
+    # Nothing may depend on the folder that it was installed to.
     mv "$work/first" "$work/prefix"
     prefix=$work/prefix
     libraries=$(dirname "$(find "$prefix" -name libpondiff.so)")

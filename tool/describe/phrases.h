@@ -29,7 +29,7 @@
 ///
 /// What people read of it is made of the command: "management ip changes from 192.0.2.1 to 192.0.2.2".
 ///
-/// The commands are those of the view that the enclosing object is edited in (`Element::entered`), else of the
+/// The commands are those of the view that the enclosing object is edited in (`Element::enter`), else of the
 /// configure view.
 
 #include "tool/describe/syntax.h"
@@ -106,7 +106,7 @@ constexpr Syntax existence = syntax_of(Syntax::Kind::existence).telling_existenc
 constexpr Syntax counter = syntax_of(Syntax::Kind::counter, nullptr, nullptr, "counts revisions");
 constexpr Syntax status = syntax_of(Syntax::Kind::counter, nullptr, nullptr, "shows a status");
 
-/// @param reason  what a person is told who asks why
+/// @param reason  why there is none, for messages
 constexpr Syntax no_command(const char* reason)
 {
     return syntax_of(Syntax::Kind::no_command, nullptr, nullptr, reason);
