@@ -44,7 +44,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (chosen(data, size, 8)) {
         disturb(odd.orig(), odd.cfg());
         odd.patch(scenario.patches);
-        check(texts_of(odd, scenario) == texts, "the texts hang on the records' addresses or on what went before");
+        check(texts_of(odd, scenario) == texts, "the texts depend on the records' addresses or on what went before");
         odd.check_patches();
         odd.restore(chosen(data, size, 64));
     }
