@@ -273,7 +273,7 @@ std::function<ExitStatus()> setup(CLI::App& command)
         ->option_text("FILE");
     command.footer(details());
     return [arguments] {
-        if (arguments->rollback == arguments->output) {
+        if (!arguments->rollback.empty() && arguments->rollback == arguments->output) {
             throw UsageError(fmt::format("--rollback {}: this is where the script goes, too", arguments->rollback));
         }
         if (arguments->max_removals < any_number) {
