@@ -6,11 +6,6 @@ namespace pondiff::fuzz {
 
 namespace {
 
-bool is_text(const tool::Field& field)
-{
-    return field.form == tool::Form::text || field.form == tool::Form::secret;
-}
-
 /// The names of the objects that a patch concerns, for those that have none in the base: "s7" in slot 7.
 void add_names(const Patch& patch, std::vector<Patch>& names)
 {
@@ -20,7 +15,7 @@ void add_names(const Patch& patch, std::vector<Patch>& names)
         name.side = Patch::Side::both;
         name.place = find_place(path.substr(0, dot + 1) + "name");
         const char* const base_name = reinterpret_cast<const char*>(&base()) + name.place.offset;
-        if (name.place.field == nullptr || !is_text(*name.place.field) || *base_name != 0) {
+        if (name.place.field == nullptr || !tool::is_text(name.place.field->form) || *base_name != 0) {
             continue;
         }
         const std::string object = path.substr(0, dot);
@@ -34,7 +29,7 @@ void add_names(const Patch& patch, std::vector<Patch>& names)
 
 void make_plain(const tool::Field& field, unsigned char* at)
 {
-    if (!is_text(field)) {
+    if (!tool::is_text(field.form)) {
         return;
     }
     for (std::size_t i = 0; i < field.width && at[i] != 0; ++i) {

@@ -207,8 +207,7 @@ void Inspection::judge_end(const Place& place)
 /// What would reach a script and do harm there, whether the object exists or not.
 void Inspection::judge_text(const Place& place)
 {
-    const bool is_text = place.field.form == Form::text || place.field.form == Form::secret;
-    if (!is_text || place.field.silent) {
+    if (!is_text(place.field.form) || place.field.silent) {
         return;
     }
     const std::string_view value = text_in(place.field, at(place.offset));

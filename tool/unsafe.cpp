@@ -76,7 +76,7 @@ class Marks {
     Marks(GCfg& orig, GCfg& cfg) : orig_(bytes_of(orig)), cfg_(bytes_of(cfg))
     {
         for_each_leaf(gcfg_record, [this](const Leaf& leaf) {
-            if (leaf.field.form == Form::text || leaf.field.form == Form::secret) {
+            if (is_text(leaf.field.form)) {
                 replace(leaf);
             }
         });

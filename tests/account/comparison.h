@@ -195,7 +195,7 @@ class Comparison {
         if (field.form == Form::reference) {
             return reference_text(field, get_number(field, at));
         }
-        if (field.form == Form::text || field.form == Form::secret) {
+        if (is_text(field.form)) {
             std::string text = text_at(at, field.width);
             if (field.syntax.longest != 0) {
                 text = text.substr(0, field.syntax.longest);

@@ -26,11 +26,6 @@ inline unsigned char* bytes_of(GCfg& configuration)
     return reinterpret_cast<unsigned char*>(&configuration);
 }
 
-inline bool is_text(const Field& field)
-{
-    return field.form == Form::text || field.form == Form::secret;
-}
-
 /// The text that an operation of the library has returned.
 inline std::string text_of(char* text)
 {
@@ -45,7 +40,7 @@ inline std::string text_of(char* text)
 inline void make_keys_distinct(GCfg& configuration)
 {
     for_each_leaf(gcfg_record, [&](const Leaf& leaf) {
-        if (leaf.field.syntax.kind != Syntax::Kind::key || is_text(leaf.field)) {
+        if (leaf.field.syntax.kind != Syntax::Kind::key || is_text(leaf.field.form)) {
             return;
         }
         const std::size_t entry = (leaf.path.steps().end() - 2)->index + 1;

@@ -36,7 +36,7 @@ inline Texts changes(const GCfg& before, const GCfg& after)
             }
         } else if (is_number(field.form)) {
             value = std::to_string(get_number(field, beside.at[1]));
-        } else if (is_text(field)) {
+        } else if (is_text(field.form)) {
             value = text_in(field, beside.at[1]);
         } else {
             for (std::size_t i = 0; i < field.width; ++i) {

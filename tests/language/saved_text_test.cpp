@@ -22,7 +22,7 @@ void make_told_apart(GCfg& configuration)
 {
     for_each_leaf(gcfg_record, [&](const Leaf& leaf) {
         const bool tells = leaf.field.syntax.kind == Syntax::Kind::key || leaf.field.name == "name";
-        if (!tells || !is_text(leaf.field)) {
+        if (!tells || !is_text(leaf.field.form)) {
             return;
         }
         unsigned char* const at = bytes_of(configuration) + leaf.offset;

@@ -18,7 +18,7 @@ std::string type_of(const Field& field)
     if (is_number(field.form)) {
         return fmt::format("{}{}", field.is_signed ? 's' : 'u', 8 * field.width);
     }
-    return field.form == Form::text || field.form == Form::secret ? "char" : "u8";
+    return is_text(field.form) ? "char" : "u8";
 }
 
 /// Records that are part of others come before them, each once, even if it has several descriptions.

@@ -32,11 +32,6 @@ struct TextField {
     bool is_silent;
 };
 
-bool is_text(const Field& field)
-{
-    return field.form == Form::text || field.form == Form::secret;
-}
-
 std::string full_name(const Field& field)
 {
     return std::string(field.owner) + "." + std::string(field.name);
@@ -58,7 +53,7 @@ void collect(const Record& record, std::size_t offset, std::size_t element, Path
         path.push(field, index);
         if (field.record != nullptr) {
             collect(*field.record, at, element, path, fields);
-        } else if (is_text(field)) {
+        } else if (is_text(field.form)) {
             fields.push_back({path.text(), full_name(field), at, field.width, offset, record.size, flag_of(record),
                               field.name == "name" && flag_of(record) != nullptr, field.silent});
         }
@@ -141,7 +136,7 @@ class Injection : public testing::Test {
     Injection()
     {
         for_each_leaf(gcfg_record, [this](const Leaf& leaf) {
-            for (std::size_t i = 0; is_text(leaf.field) && i < leaf.field.width; ++i) {
+            for (std::size_t i = 0; is_text(leaf.field.form) && i < leaf.field.width; ++i) {
                 bytes(*equal)[leaf.offset + i] =
                     i % 2 == 0 ? 'y' : 'z'; // without an end, so that reading on would show
             }

@@ -21,6 +21,12 @@ const char* name_of(Fate fate)
     return names[static_cast<std::size_t>(fate)];
 }
 
+const char* name_of(ObjectAccount::Change change)
+{
+    static constexpr const char* names[] = {"changed", "added", "removed"};
+    return names[static_cast<std::size_t>(change)];
+}
+
 namespace {
 
 bool tells_or_shows_existence(const Field& field)

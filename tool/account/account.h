@@ -65,6 +65,9 @@ struct ObjectAccount {
     std::vector<Item> items;
 };
 
+/// "added", "changed" or "removed".
+const char* name_of(ObjectAccount::Change change);
+
 class Account {
   public:
     enum class Verdict : std::uint8_t {

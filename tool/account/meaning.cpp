@@ -15,11 +15,6 @@ namespace pondiff::tool {
 
 namespace {
 
-bool is_text(const Field& field)
-{
-    return field.form == Form::text || field.form == Form::secret;
-}
-
 /// A text as far as it counts, its markers in one spelling.
 std::string text_meant(const Field& field, const unsigned char* at)
 {
@@ -251,7 +246,7 @@ class SideBySide {
 
     static std::string_view identity(const Field& key, const unsigned char* at)
     {
-        return is_text(key) ? text_in(key, at) : std::string_view(reinterpret_cast<const char*>(at), key.width);
+        return is_text(key.form) ? text_in(key, at) : std::string_view(reinterpret_cast<const char*>(at), key.width);
     }
 
     void compare_leaves(const Field& field, const Places& places, const There& there)
@@ -311,7 +306,7 @@ bool means_the_same(const Field& field, const unsigned char* a, const GCfg& in_a
     if (field.form == Form::boolean || field.syntax.is_switch) {
         return (get_number(field, a) != 0) == (get_number(field, b) != 0);
     }
-    return is_text(field) && text_meant(field, a) == text_meant(field, b);
+    return is_text(field.form) && text_meant(field, a) == text_meant(field, b);
 }
 
 bool same_in(const Beside<3>& beside, const std::array<const GCfg*, 3>& configurations, std::size_t a, std::size_t b)

@@ -29,12 +29,6 @@ const unsigned char* place_of(const Path& path, const unsigned char* configurati
 std::string told(const Path::Step& step, const unsigned char* at)
 {
     switch (step.field->element.told) {
-    case Element::Told::by_port_and_id:
-        return fmt::format("{}/{}", step.index / GCFG_ONTS_PER_PORT, step.index % GCFG_ONTS_PER_PORT);
-    case Element::Told::by_name: {
-        const Field& name = *step.field->record->name_member;
-        return fmt::format("\"{}\"", text_in(name, at + name.offset));
-    }
     case Element::Told::by_key: {
         const Field& key = *step.field->record->key_member;
         std::string value;
@@ -44,7 +38,7 @@ std::string told(const Path::Step& step, const unsigned char* at)
     case Element::Told::by_word:
         return step.field->element.vocabulary(static_cast<int>(step.index));
     default:
-        return std::to_string(step.index);
+        return name_of_element(*step.field, step.index, at);
     }
 }
 

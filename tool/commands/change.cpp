@@ -3,6 +3,7 @@
 #include "tool/commands/candidates.h"
 
 #include <CLI/CLI.hpp>
+#include <fmt/format.h>
 
 namespace pondiff::tool {
 
@@ -10,6 +11,11 @@ void Change::add_files(CLI::App& command, const char* running_name, const char* 
 {
     command.add_option(running_name, running, "Configuration that the device runs; - is standard input")->required();
     command.add_option(wanted_name, wanted, "Configuration wanted; - is standard input, but not for both")->required();
+}
+
+void Change::add_script(CLI::App& command, const char* what)
+{
+    command.add_option("SCRIPT", script, fmt::format("Commands to {} instead of those of \"pondiff diff\"", what));
 }
 
 void Change::add_options(CLI::App& command)
@@ -34,6 +40,11 @@ void Change::add_options(CLI::App& command)
         ->option_text("AREA")
         ->check(completed_by(area_candidates()));
     input.add_option(command);
+}
+
+std::string Change::script_text(GCfg& running_configuration, GCfg& wanted_configuration) const
+{
+    return script.empty() ? script_of(request(), running_configuration, wanted_configuration) : Input::script(script);
 }
 
 ScriptRequest Change::request() const

@@ -68,7 +68,6 @@ Examples:
 
 struct Arguments {
     Change change;
-    std::string script;
     std::string color = "auto";
     PlanStyle style;
     bool json = false;
@@ -88,8 +87,7 @@ ExitStatus run(Arguments& arguments)
     const ScriptRequest request = arguments.change.request();
     const auto [running, wanted] =
         arguments.change.input.configurations(arguments.change.running, arguments.change.wanted);
-    const std::string script =
-        arguments.script.empty() ? script_of(request, *running, *wanted) : Input::script(arguments.script);
+    const std::string script = arguments.change.script_text(*running, *wanted);
     Plan plan = make_plan(*running, *wanted, script);
     find_remedies(plan, *running, *wanted, request);
     write_file(standard_stream,
@@ -102,7 +100,7 @@ std::function<ExitStatus()> setup(CLI::App& command)
 {
     const auto arguments = std::make_shared<Arguments>();
     arguments->change.add_files(command, "RUNNING", "WANTED");
-    command.add_option("SCRIPT", arguments->script, "Commands to plan instead of those of \"pondiff diff\"");
+    arguments->change.add_script(command, "plan");
     arguments->change.add_options(command);
     command.add_flag("--full", arguments->style.full, "Fold nothing");
     command
@@ -114,7 +112,7 @@ std::function<ExitStatus()> setup(CLI::App& command)
     command.add_flag("--json", arguments->json, "Print the plan as JSON");
     command.footer(details());
     return [arguments] {
-        arguments->change.input.check({arguments->change.running, arguments->change.wanted, arguments->script});
+        arguments->change.input.check({arguments->change.running, arguments->change.wanted, arguments->change.script});
         if (arguments->color != "auto" && arguments->color != "always" && arguments->color != "never") {
             throw UsageError(fmt::format("--color {}: expected auto, always or never", arguments->color));
         }

@@ -39,7 +39,6 @@ Examples:
 
 struct Arguments {
     Change change;
-    std::string script;
     bool json = false;
     bool secrets = false;
 };
@@ -66,8 +65,7 @@ ExitStatus run(Arguments& arguments)
     const Change& change = arguments.change;
     const ScriptRequest request = change.request();
     const auto [running, wanted] = arguments.change.input.configurations(change.running, change.wanted);
-    const std::string script =
-        arguments.script.empty() ? script_of(request, *running, *wanted) : Input::script(arguments.script);
+    const std::string script = change.script_text(*running, *wanted);
     Plan plan = make_plan(*running, *wanted, script);
     if (arguments.json) {
         find_remedies(plan, *running, *wanted, request);
@@ -81,13 +79,13 @@ std::function<ExitStatus()> setup(CLI::App& command)
 {
     const auto arguments = std::make_shared<Arguments>();
     arguments->change.add_files(command, "RUNNING", "WANTED");
-    command.add_option("SCRIPT", arguments->script, "Commands to verify instead of those of \"pondiff diff\"");
+    arguments->change.add_script(command, "verify");
     arguments->change.add_options(command);
     command.add_flag("--json", arguments->json, "Print JSON, as \"pondiff plan --json\" does");
     command.add_flag("--show-secrets", arguments->secrets, "Show passwords and other secrets");
     command.footer(details());
     return [arguments] {
-        arguments->change.input.check({arguments->change.running, arguments->change.wanted, arguments->script});
+        arguments->change.input.check({arguments->change.running, arguments->change.wanted, arguments->change.script});
         return run(*arguments);
     };
 }

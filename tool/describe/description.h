@@ -107,6 +107,12 @@ constexpr bool is_number(Form form)
     return form <= Form::reference;
 }
 
+/// True for the forms whose element is terminated characters.
+constexpr bool is_text(Form form)
+{
+    return form == Form::text || form == Form::secret;
+}
+
 constexpr std::int64_t smallest(const Field& field)
 {
     return field.is_signed ? -(std::int64_t{1} << (8 * field.width - 1)) : 0;

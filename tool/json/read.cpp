@@ -299,7 +299,7 @@ bool Reader::start_object(std::size_t)
         begin(Frame::Kind::elements, place);
     } else if (place.field.form == Form::record) {
         begin(Frame::Kind::record, place);
-    } else if (place.field.form == Form::text || place.field.form == Form::secret) {
+    } else if (is_text(place.field.form)) {
         begin(Frame::Kind::bytes, place);
     } else {
         fail(mismatch(expectation(place.field, true), object));

@@ -308,7 +308,7 @@ void store(const Field& field, unsigned char* at, const Said& said)
         }
     } else if (is_number(field.form)) {
         set_number(field, at, said.number);
-    } else if (field.form == Form::text || field.form == Form::secret) {
+    } else if (is_text(field.form)) {
         std::memset(at, 0, field.width);
         std::memcpy(at, said.text.data(), said.text.size());
         if (field.syntax.port_marker) {

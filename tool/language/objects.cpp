@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstring>
+#include <fmt/format.h>
 #include <map>
 #include <vector>
 
@@ -79,6 +80,20 @@ bool in_use(const Record& record, const unsigned char* at)
         return get_number(*flag, at + flag->offset) != 0;
     }
     return key == nullptr || !all_zero(at, record.size);
+}
+
+std::string name_of_element(const Field& array, std::size_t slot, const unsigned char* at)
+{
+    switch (array.element.told) {
+    case Element::Told::by_port_and_id:
+        return fmt::format("{}/{}", slot / GCFG_ONTS_PER_PORT, slot % GCFG_ONTS_PER_PORT);
+    case Element::Told::by_name: {
+        const Field& name = *array.record->name_member;
+        return fmt::format("\"{}\"", text_in(name, at + name.offset));
+    }
+    default:
+        return std::to_string(slot);
+    }
 }
 
 void make_blank(const Record& record, unsigned char* at)

@@ -10,6 +10,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -18,6 +19,9 @@ namespace pondiff::tool {
 /// Whether an element of an array is in use: by its key where the key says so, by its flag of existence where it has
 /// one; else an element of nothing but zeros is free, and a record that no key or name tells is always there.
 bool in_use(const Record& record, const unsigned char* at);
+
+/// What tells an element that has a number or a name, as commands have it: `3`, `1/6`, `"gold"`.
+std::string name_of_element(const Field& array, std::size_t slot, const unsigned char* at);
 
 /// Makes a record blank: numbers 0, texts empty, references none, lists empty.
 void make_blank(const Record& record, unsigned char* at);

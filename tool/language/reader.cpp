@@ -13,11 +13,6 @@ namespace pondiff::tool {
 
 namespace {
 
-bool is_text(const Field& field)
-{
-    return field.form == Form::text || field.form == Form::secret;
-}
-
 std::size_t size_of(const Field& field)
 {
     return field.layout == Layout::ended_list ? field.size : field.width;
@@ -341,7 +336,7 @@ bool Device::find_by_key(const Match& match, bool create, std::size_t& slot)
 {
     const Pattern& pattern = *match.pattern;
     const Field& key = *pattern.array->record->key_member;
-    if (is_text(key)) {
+    if (is_text(key.form)) {
         return find_by_text(match, key, create, slot);
     }
     const Token& token = match.words[static_cast<std::size_t>(pattern.element)];
@@ -437,14 +432,7 @@ std::string place_text(const Standing& standing, const GCfg& configuration)
     const auto* const object =
         reinterpret_cast<const unsigned char*>(&configuration) + view.offset + standing.slot * view.objects->width;
     std::string form = view.objects->element.enter;
-    std::string told = std::to_string(standing.slot);
-    if (view.objects->element.told == Element::Told::by_port_and_id) {
-        told = fmt::format("{}/{}", standing.slot / GCFG_ONTS_PER_PORT, standing.slot % GCFG_ONTS_PER_PORT);
-    } else if (view.objects->element.told == Element::Told::by_name) {
-        const Field& name = *view.objects->record->name_member;
-        told = fmt::format("\"{}\"", text_in(name, object + name.offset));
-    }
-    form.replace(form.find("<#>"), 3, told);
+    form.replace(form.find("<#>"), 3, name_of_element(*view.objects, standing.slot, object));
     return form;
 }
 

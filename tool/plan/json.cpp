@@ -21,19 +21,6 @@ const char* name_of(Account::Verdict verdict)
     return "incomplete";
 }
 
-const char* name_of(ObjectAccount::Change change)
-{
-    switch (change) {
-    case ObjectAccount::Change::added:
-        return "added";
-    case ObjectAccount::Change::removed:
-        return "removed";
-    case ObjectAccount::Change::changed:
-        break;
-    }
-    return "changed";
-}
-
 class Writer {
   public:
     Writer(const Plan& plan, bool secrets) : plan_(plan), account_(plan.account), secrets_(secrets) {}
@@ -74,7 +61,7 @@ class Writer {
     {
         Json json{{"lines", account_.replay().lines().size()}, {"added", 0}, {"changed", 0}, {"removed", 0}};
         for (const ObjectAccount& object : account_.objects()) {
-            Json& count = json[name_of(object.change)];
+            Json& count = json[tool::name_of(object.change)];
             count = count.get<std::size_t>() + 1;
         }
         for (std::size_t i = 0; i < number_of_fates; ++i) {
@@ -87,7 +74,7 @@ class Writer {
 
     Json of(const ObjectAccount& object) const
     {
-        Json json{{"name", object.name}, {"path", object.path}, {"change", name_of(object.change)}};
+        Json json{{"name", object.name}, {"path", object.path}, {"change", tool::name_of(object.change)}};
         if (!object.old_name.empty()) {
             json["old_name"] = object.old_name;
         }

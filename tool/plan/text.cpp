@@ -154,18 +154,7 @@ class Writer {
 
     static const char* word_of(const ObjectAccount& object)
     {
-        if (is_left_over(object)) {
-            return "left over";
-        }
-        switch (object.change) {
-        case ObjectAccount::Change::added:
-            return "added";
-        case ObjectAccount::Change::removed:
-            return "removed";
-        case ObjectAccount::Change::changed:
-            break;
-        }
-        return "changed";
+        return is_left_over(object) ? "left over" : name_of(object.change);
     }
 
     /// Whether the object as a whole is not wanted and still there.
